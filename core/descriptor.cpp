@@ -1,0 +1,105 @@
+#include "core/descriptor.h"
+
+#include <algorithm>
+#include <map>
+
+#include "core/families.h"
+
+namespace kvs {
+
+namespace {
+
+// Dialogs whose reset marker starts at -1.
+constexpr std::uint16_t kUnsetMarkerIds[] = {87, 88, 252, 269, 271, 272, 281, 290, 298};
+
+Descriptor freshDescriptor(const DispatchRow& row) {
+    Descriptor d;
+    d.resetMarker = std::find(std::begin(kUnsetMarkerIds), std::end(kUnsetMarkerIds), row.id) !=
+                            std::end(kUnsetMarkerIds)
+                        ? -1
+                        : 0;
+    d.firstCapacity = d.tableFirstCapacity = row.firstCapacity;
+    d.secondCapacity = row.secondCapacity;
+    // A dialog with a second list keeps it across Cancel like the first.
+    d.listFlag = row.secondCapacity > 0 ? 1 : 0;
+    if (row.launch == Launch::Graph) d.thirdCapacity = d.fourthCapacity = 256;
+    const DescriptorSettings settings = descriptorSettings(row.id);
+    d.switch1 = settings.switch1;
+    d.switch2 = settings.switch2;
+    d.switch3 = settings.switch3;
+    d.extra = settings.extra;
+    return d;
+}
+
+std::map<std::uint16_t, Descriptor>& descriptors() {
+    static std::map<std::uint16_t, Descriptor> all = [] {
+        std::map<std::uint16_t, Descriptor> made;
+        for (const DispatchRow& row : dispatchTable())
+            if (row.launch != Launch::Special) made.emplace(row.id, freshDescriptor(row));
+        return made;
+    }();
+    return all;
+}
+
+void release(SelectionArray& array) {
+    array.entries.clear();
+    array.entries.shrink_to_fit();
+    array.exists = false;
+}
+
+}  // namespace
+
+std::int32_t SelectionArray::used(std::int32_t capacity) const {
+    const auto limit = std::min<std::size_t>(entries.size(), static_cast<std::size_t>(std::max(capacity, 0)));
+    std::int32_t n = 0;
+    while (static_cast<std::size_t>(n) < limit && entries[static_cast<std::size_t>(n)] != -1) ++n;
+    return n;
+}
+
+void SelectionArray::fill(std::int32_t count, std::int32_t value) {
+    const auto n = std::min<std::size_t>(entries.size(), static_cast<std::size_t>(std::max(count, 0)));
+    std::fill_n(entries.begin(), n, value);
+}
+
+Descriptor* descriptorFor(std::uint16_t id) {
+    auto& all = descriptors();
+    auto it = all.find(id);
+    return it == all.end() ? nullptr : &it->second;
+}
+
+std::int32_t firstUsedCount(const Descriptor& d, int mode) { return mode == 0 ? 1 : d.firstCapacity; }
+std::int32_t secondUsedCount(const Descriptor& d, int mode) { return mode == 1 ? 1 : d.secondCapacity; }
+
+void resetSelection(Descriptor& d, bool freeArrays, int mode) {
+    if (!d.allocated) return;
+    d.defaultsMarker = 1;
+    d.resetMarker = 0;
+    d.first.fill(firstUsedCount(d, mode), -1);
+    d.second.fill(secondUsedCount(d, mode), -1);
+    d.third.fill(d.thirdCapacity, -1);
+    d.fourth.fill(d.fourthCapacity, -1);
+    if (freeArrays) {
+        release(d.first);
+        release(d.second);
+        release(d.third);
+        release(d.fourth);
+        d.allocated = 0;
+    }
+}
+
+void resetAllSelections(bool freeArrays) {
+    for (const DispatchRow& row : dispatchTable()) {
+        if (Descriptor* d = descriptorFor(row.id)) {
+            // The Let and Standardize records are cleared as mode 1 records.
+            const int mode = (row.id == 67 || row.id == 70) ? 1 : row.mode;
+            resetSelection(*d, freeArrays, mode);
+        }
+    }
+}
+
+void resetDescriptorsForLoad() {
+    for (const DispatchRow& row : dispatchTable())
+        if (Descriptor* d = descriptorFor(row.id)) *d = freshDescriptor(row);
+}
+
+}  // namespace kvs

@@ -1,0 +1,28 @@
+#include "core/families.h"
+
+#include "core/series_commands.h"
+
+namespace kvs {
+
+DescriptorSettings descriptorSettings(std::uint16_t commandId) {
+    if (commandId >= 41 && commandId <= 93) return data::descriptorSettings(commandId);
+    return {};
+}
+
+DialogBehaviour* familyBehaviour(std::uint16_t commandId) {
+    if (commandId >= 42 && commandId <= 92) return data::behaviour(commandId);
+    return nullptr;
+}
+
+void resetFamilyDefaults() { data::resetDefaults(); }
+
+bool runSpecialCommand(std::uint16_t commandId) {
+    switch (commandId) {
+    case 242:
+    case 245:
+    case 246: runSeriesCommand(commandId); return true;
+    default: return false;
+    }
+}
+
+}  // namespace kvs

@@ -1,0 +1,197 @@
+#include "core/generic_dialog.h"
+
+#include <algorithm>
+
+#include "core/families.h"
+#include "core/library_state.h"
+#include "core/list_transfer.h"
+#include "core/messages.h"
+#include "include/kvs_imports.h"
+#include "resources/common_ids.h"
+
+namespace kvs {
+
+namespace {
+
+constexpr std::uint16_t kFourListIds[] = {101, 102, 103, 106, 108, 109, 111, 113, 114, 116, 118, 120,
+                                          121, 129, 146, 147, 204, 218, 283, 284, 285, 287, 1124};
+
+}  // namespace
+
+GenericDialog::GenericDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner)
+    : row_(row), descriptor_(descriptor), owner_(owner), commandId_(row.id),
+      behaviour_(familyBehaviour(row.id)) {}
+
+bool GenericDialog::fourLists() const {
+    return std::find(std::begin(kFourListIds), std::end(kFourListIds), commandId_) != std::end(kFourListIds);
+}
+
+VariableCatalogue& GenericDialog::catalogue(int sourceList) {
+    return sourceList == IDC_SOURCE2 ? secondCatalogue_ : sourceCatalogue_;
+}
+
+int GenericDialog::targetCapacity(int listId) const {
+    for (const Target& target : targets_)
+        if (target.listId == listId) return target.capacity;
+    return 0;
+}
+
+void GenericDialog::prepareTargets(DialogView& view) {
+    Descriptor& d = descriptor_;
+    targets_.clear();
+    if (!d.first.exists) return;
+    const int mode = row_.mode;
+    targets_.push_back({IDC_TARGET1, &d.first, mode == 0 ? 1 : d.firstCapacity, {}});
+    view.enable(IDC_ADD1, false);
+    view.enable(IDC_REMOVE1, false);
+    if (d.second.exists) {
+        const std::int32_t capacity = mode == 1 ? std::min<std::int32_t>(d.secondCapacity, 1) : d.secondCapacity;
+        targets_.push_back({IDC_TARGET2, &d.second, capacity, {}});
+        if (d.secondCapacity > 0) {
+            view.enable(IDC_ADD2, false);
+            view.enable(IDC_REMOVE2, false);
+        }
+    }
+    if (fourLists()) {
+        if (d.third.exists) {
+            targets_.push_back({IDC_TARGET3, &d.third, d.thirdCapacity, {}});
+            view.enable(IDC_ADD3, false);
+            view.enable(IDC_REMOVE3, false);
+        }
+        if (d.fourth.exists) {
+            targets_.push_back({IDC_TARGET4, &d.fourth, d.fourthCapacity, {}});
+            if (d.fourthCapacity > 0) {
+                view.enable(IDC_ADD4, false);
+                view.enable(IDC_REMOVE4, false);
+            }
+        }
+    }
+}
+
+int GenericDialog::onInit(DialogView& view) {
+    LibraryState& lib = library();
+    const std::int32_t variables = GetNumVars();
+    view.centre();
+    INQFMV_EX();
+    lib.helpContext = commandId_;
+    prepareTargets(view);
+
+    const ListInsert how = listInsertRule();
+    if (descriptor_.allocated) {
+        const bool numericOnly = descriptor_.switch1 != 0;
+        fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
+        if (descriptor_.listFlag && view.has(IDC_SOURCE2))
+            fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
+        for (Target& target : targets_) {
+            const bool skip = target.listId == IDC_TARGET1 && commandId_ == 289;
+            if (skip || target.capacity <= 0 || target.array->entries.empty() || target.array->entries[0] == -1)
+                continue;
+            const VariableCatalogue& names =
+                target.listId == IDC_TARGET2 && view.has(IDC_SOURCE2) ? secondCatalogue_ : sourceCatalogue_;
+            restoreSelection(view, target.array->entries, target.capacity, target.listId, names);
+        }
+    }
+    // While the dialog runs the arrays are empty; OK rebuilds them from the
+    // lists and Cancel puts the backups back.
+    for (Target& target : targets_) {
+        target.backup = target.array->entries;
+        std::fill(target.array->entries.begin(), target.array->entries.end(), -1);
+    }
+
+    int focus = 0;
+    if (behaviour_) {
+        DialogContext context{view, *this};
+        focus = behaviour_->init(context);
+    }
+    updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
+    if (focus) view.setFocus(focus);
+    return focus;
+}
+
+void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
+    if (closing_) return;
+    const auto capacity = [this](int id) { return targetCapacity(id); };
+    if (controlId != kIdOk && controlId != kIdCancel &&
+        handleListTransfer(view, controlId, notifyCode, capacity, listInsertRule()))
+        return;
+    DialogContext context{view, *this};
+    switch (controlId) {
+    case IDC_HELP: help(view); return;
+    case IDC_RESETALL: resetAll(view); return;
+    case kIdCancel: close(view, kIdCancel); return;
+    case kIdOk:
+    case IDC_CONTINUE:
+        if (notifyCode != kButtonClicked) return;
+        if (!behaviour_ || !behaviour_->command(context, controlId, notifyCode)) return;
+        for (Target& target : targets_) {
+            const VariableCatalogue& names =
+                target.listId == IDC_TARGET2 && view.has(IDC_SOURCE2) ? secondCatalogue_ : sourceCatalogue_;
+            storeSelection(view, target.listId, target.capacity, names, target.array->entries);
+        }
+        close(view, controlId);
+        return;
+    default:
+        if (behaviour_) behaviour_->command(context, controlId, notifyCode);
+    }
+}
+
+void GenericDialog::close(DialogView& view, int result) {
+    closing_ = true;
+    INQFMV_EX();
+    if (result == kIdCancel) {
+        for (Target& target : targets_) target.array->entries = target.backup;
+        if (behaviour_) {
+            DialogContext context{view, *this};
+            behaviour_->cancel(context);
+        }
+    }
+    view.listClear(IDC_SOURCE);
+    if (descriptor_.listFlag) view.listClear(IDC_SOURCE2);
+    library().helpContext = 0;
+    view.end(result);
+}
+
+void GenericDialog::help(DialogView& view) {
+    HelpRequest request;
+    request.owner = view.handle();
+    request.file = library().helpPath;
+    request.kind = HelpKind::Context;
+    request.context = commandId_;
+    ui().help(request);
+}
+
+void GenericDialog::resetAll(DialogView& view) {
+    for (const Target& target : targets_) view.listClear(target.listId);
+    if (behaviour_) {
+        DialogContext context{view, *this};
+        behaviour_->reset(context);
+    }
+    updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
+}
+
+void GenericDialog::onSysCommand(DialogView&, int code) {
+    const LibraryState& lib = library();
+    HelpRequest request;
+    request.owner = lib.hostWindow;
+    request.file = lib.helpPath;
+    switch (code) {
+    case IDM_HELP_CONTENTS: request.kind = HelpKind::Contents; break;
+    case IDM_HELP_SEARCH:
+        request.kind = HelpKind::Key;
+        request.key = std::string(text::kHelpSearchKey);
+        break;
+    case IDM_HELP_ON_HELP:
+        request.kind = HelpKind::HelpOnHelp;
+        request.file = std::string(text::kHelpOnHelpFile);
+        break;
+    case IDM_HELP_CONTEXT:
+        if (lib.helpContext == 0) return;
+        request.kind = HelpKind::Context;
+        request.context = lib.helpContext;
+        break;
+    default: return;
+    }
+    ui().help(request);
+}
+
+}  // namespace kvs

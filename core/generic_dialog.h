@@ -1,0 +1,59 @@
+// The dialog procedure every variable dialog runs under: source and target
+// lists, Add and Remove, Help, Reset All, the saved selection restored on
+// open, kept on OK and given back on Cancel. What is particular to one
+// dialog is its DialogBehaviour's.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+#include "core/descriptor.h"
+#include "core/dialog_behaviour.h"
+#include "core/seam.h"
+#include "core/variable_list.h"
+
+namespace kvs {
+
+class GenericDialog : public DialogHandler {
+public:
+    GenericDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner);
+
+    int onInit(DialogView& view) override;
+    void onCommand(DialogView& view, int controlId, int notifyCode) override;
+    void onSysCommand(DialogView& view, int code) override;
+
+    std::uint16_t commandId() const { return commandId_; }
+    const DispatchRow& row() const { return row_; }
+    Descriptor& descriptor() { return descriptor_; }
+    WindowRef owner() const { return owner_; }
+    VariableCatalogue& catalogue(int sourceList);
+    // Capacity of a target list in this dialog; 0 when the list is not used.
+    int targetCapacity(int listId) const;
+    bool fourLists() const;
+
+private:
+    struct Target {
+        int listId;
+        SelectionArray* array;
+        std::int32_t capacity;
+        std::vector<std::int32_t> backup;
+    };
+
+    void prepareTargets(DialogView& view);
+    void close(DialogView& view, int result);
+    void help(DialogView& view);
+    void resetAll(DialogView& view);
+
+    const DispatchRow& row_;
+    Descriptor& descriptor_;
+    WindowRef owner_;
+    std::uint16_t commandId_;
+    DialogBehaviour* behaviour_;
+    std::vector<Target> targets_;
+    VariableCatalogue sourceCatalogue_;
+    VariableCatalogue secondCatalogue_;
+    bool closing_ = false;
+};
+
+}  // namespace kvs

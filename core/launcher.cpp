@@ -1,0 +1,73 @@
+#include "core/launcher.h"
+
+#include <new>
+
+#include "core/generic_dialog.h"
+#include "core/library_state.h"
+#include "core/messages.h"
+#include "include/kvs_imports.h"
+
+namespace kvs {
+
+namespace {
+
+void allocate(SelectionArray& array, std::int32_t size, std::int32_t usedCount) {
+    array.entries.assign(static_cast<std::size_t>(std::max(size, 0)), 0);
+    array.fill(usedCount, -1);
+    array.exists = true;
+}
+
+// First use: capacities from the file in use, arrays filled with -1.
+bool allocateArrays(Descriptor& d, const DispatchRow& row, std::int32_t positions) {
+    if (d.tableFirstCapacity != 0) d.firstCapacity = positions;
+    const int mode = row.mode;
+    try {
+        d.allocated = 1;
+        allocate(d.first, mode == 0 ? 2 : 2 * d.firstCapacity, firstUsedCount(d, mode));
+        allocate(d.second, mode == 1 ? 1 : d.secondCapacity, secondUsedCount(d, mode));
+        if (row.launch == Launch::Graph) {
+            allocate(d.third, d.thirdCapacity, d.thirdCapacity);
+            allocate(d.fourth, d.fourthCapacity, d.fourthCapacity);
+        }
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return true;
+}
+
+class DialogUpGuard {
+public:
+    explicit DialogUpGuard(bool& flag) : flag_(flag), previous_(flag) { flag_ = true; }
+    ~DialogUpGuard() { flag_ = previous_; }
+    DialogUpGuard(const DialogUpGuard&) = delete;
+    DialogUpGuard& operator=(const DialogUpGuard&) = delete;
+
+private:
+    bool& flag_;
+    bool previous_;
+};
+
+}  // namespace
+
+int launchDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner, bool subDialog) {
+    LibraryState& lib = library();
+    const std::int32_t positions = INQFMV_EX();
+    if (lib.dialogUp && !subDialog) {
+        showStop(ui().focusWindow(), text::kOneDialog);
+        return 0;
+    }
+    if (!descriptor.allocated && !allocateArrays(descriptor, row, positions)) {
+        showNoMemory(owner);
+        return 0;
+    }
+    DialogUpGuard up(lib.dialogUp);
+    GenericDialog dialog(row, descriptor, owner);
+    const int result = ui().runModal(owner, row.templateName, dialog);
+    if (result == -1) {
+        showStop(owner, text::kCannotCreate);
+        return 0;
+    }
+    return result == 1 ? 1 : 0;
+}
+
+}  // namespace kvs

@@ -1,0 +1,27 @@
+#include "core/lifecycle.h"
+
+#include "core/command_queue.h"
+#include "core/descriptor.h"
+#include "core/file_choosers.h"
+#include "core/file_filters.h"
+#include "core/library_state.h"
+#include "include/kvs_dlg.h"
+
+namespace kvs {
+
+void onLibraryLoad() {
+    library() = LibraryState{};
+    resetDescriptorsForLoad();
+    ReinitDialogs(1);
+    prepareFileFilters();
+}
+
+void onLibraryUnload() {
+    queue::resetForLoad();
+    resetAllSelections(true);
+    resetDescriptorsForLoad();
+    resetFileChoosers();
+    library() = LibraryState{};
+}
+
+}  // namespace kvs

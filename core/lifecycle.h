@@ -1,0 +1,12 @@
+// Load and unload of the library.
+#pragma once
+
+namespace kvs {
+
+// Everything the load notification does, from a state as at first load.
+void onLibraryLoad();
+// What the unload notification releases; also returns every remembered
+// setting to its never-loaded state, so a test can load the library afresh.
+void onLibraryUnload();
+
+}  // namespace kvs

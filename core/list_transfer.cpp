@@ -1,0 +1,93 @@
+#include "core/list_transfer.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+namespace kvs {
+
+namespace {
+
+bool isUsed(const DialogView& view, const ListTransferRow& row, const TargetCapacity& capacity) {
+    return view.has(row.targetList) && capacity(row.targetList) > 0;
+}
+
+void addSelected(DialogView& view, const ListTransferRow& row, int capacity, ListInsert how) {
+    const int source = sourceListOf(view, row);
+    const std::vector<int> picked = view.listSelection(source);
+    if (picked.empty()) return;
+    std::unordered_set<std::string> present;
+    const int existing = view.listCount(row.targetList);
+    for (int i = 0; i < existing; ++i) present.insert(view.listText(row.targetList, i));
+    for (int index : picked) {
+        std::string name = view.listText(source, index);
+        if (present.count(name)) continue;
+        if (view.listCount(row.targetList) >= capacity) {
+            if (capacity != 1) {
+                ui().beep();
+                break;
+            }
+            // A one-variable target takes the new name in place of the old.
+            present.erase(view.listText(row.targetList, 0));
+            view.listDelete(row.targetList, 0);
+        }
+        view.listAdd(row.targetList, name, how);
+        present.insert(std::move(name));
+    }
+    for (int index : picked) view.listSelect(source, index, false);
+}
+
+void removeSelected(DialogView& view, const ListTransferRow& row) {
+    std::vector<int> picked = view.listSelection(row.targetList);
+    std::sort(picked.rbegin(), picked.rend());
+    for (int index : picked) view.listDelete(row.targetList, index);
+}
+
+}  // namespace
+
+int sourceListOf(const DialogView& view, const ListTransferRow& row) {
+    return view.has(row.sources[0]) ? row.sources[0] : row.sources[1];
+}
+
+void updateTransferButtons(DialogView& view, const TargetCapacity& capacity) {
+    for (const ListTransferRow& row : kListTransfers) {
+        if (!isUsed(view, row, capacity)) continue;
+        view.enable(row.addButton, !view.listSelection(sourceListOf(view, row)).empty());
+        view.enable(row.removeButton, !view.listSelection(row.targetList).empty());
+    }
+}
+
+bool handleListTransfer(DialogView& view, int controlId, int notifyCode, const TargetCapacity& capacity,
+                        ListInsert how) {
+    bool handled = false;
+    for (const ListTransferRow& row : kListTransfers) {
+        if (!isUsed(view, row, capacity)) continue;
+        const int source = sourceListOf(view, row);
+        if (controlId == row.addButton && notifyCode == kButtonClicked) {
+            addSelected(view, row, capacity(row.targetList), how);
+        } else if (controlId == row.removeButton && notifyCode == kButtonClicked) {
+            removeSelected(view, row);
+        } else if (controlId == row.targetList && notifyCode == kListDblClick) {
+            removeSelected(view, row);
+        } else if (controlId == source && notifyCode == kListDblClick) {
+            // A double-click in a source list adds to the first list it serves.
+            addSelected(view, row, capacity(row.targetList), how);
+        } else if (controlId != source && controlId != row.targetList) {
+            continue;
+        }
+        handled = true;
+        break;
+    }
+    if (!handled) {
+        // A source or target list of a row this dialog does not use.
+        for (const ListTransferRow& row : kListTransfers)
+            if (controlId == row.targetList || controlId == row.sources[0] || controlId == row.sources[1] ||
+                controlId == row.addButton || controlId == row.removeButton)
+                handled = true;
+    }
+    if (handled) updateTransferButtons(view, capacity);
+    return handled;
+}
+
+}  // namespace kvs

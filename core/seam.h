@@ -1,0 +1,145 @@
+// The seam between dialog logic and windows. Everything under core/, data/,
+// graph/ and stats/ talks to dialogs only through these interfaces; win32/
+// implements them over real windows, headless/ over in-memory controls built
+// from the same resource templates.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kvs {
+
+// An opaque window handle (an HWND under Windows); 0 is "no window".
+using WindowRef = std::uintptr_t;
+
+// How a name goes into a list box: Sorted is LB_ADDSTRING (sorted only when
+// the list box has the sort style), Append is LB_INSERTSTRING at -1.
+enum class ListInsert { Append, Sorted };
+
+// Results of listAdd besides an index.
+inline constexpr int kListError = -1;      // LB_ERR
+inline constexpr int kListNoSpace = -2;    // LB_ERRSPACE
+
+// Notification codes passed to DialogHandler::onCommand.
+inline constexpr int kButtonClicked = 0;   // BN_CLICKED
+inline constexpr int kListSelChange = 1;   // LBN_SELCHANGE
+inline constexpr int kListDblClick = 2;    // LBN_DBLCLK
+inline constexpr int kEditChange = 0x300;  // EN_CHANGE
+inline constexpr int kComboSelChange = 1;  // CBN_SELCHANGE
+
+// The controls of one open dialog, addressed by control id. Operations on an
+// id the dialog does not have do nothing and read as empty.
+class DialogView {
+public:
+    virtual ~DialogView() = default;
+
+    virtual WindowRef handle() const = 0;
+    virtual bool has(int id) const = 0;
+
+    virtual std::string text(int id) const = 0;
+    virtual void setText(int id, std::string_view text) = 0;
+    virtual bool isEnabled(int id) const = 0;
+    virtual void enable(int id, bool on) = 0;
+    virtual bool isChecked(int id) const = 0;
+    virtual void setChecked(int id, bool on) = 0;
+    virtual void setFocus(int id) = 0;
+
+    // List boxes.
+    virtual int listCount(int id) const = 0;
+    virtual std::string listText(int id, int index) const = 0;
+    virtual int listAdd(int id, std::string_view text, ListInsert how) = 0;
+    virtual void listDelete(int id, int index) = 0;
+    virtual void listClear(int id) = 0;
+    virtual std::vector<int> listSelection(int id) const = 0;
+    virtual void listSelect(int id, int index, bool on) = 0;
+    virtual void listSetCurrent(int id, int index) = 0;  // LB_SETCURSEL
+    virtual void setRedraw(int id, bool on) = 0;
+
+    // Combo boxes.
+    virtual void comboAdd(int id, std::string_view text) = 0;
+    virtual void comboClear(int id) = 0;
+    virtual int comboSelection(int id) const = 0;
+    virtual void comboSelect(int id, int index) = 0;
+
+    // Centres the dialog on the screen.
+    virtual void centre() = 0;
+    // Ends the modal dialog with this result once the current message is done.
+    virtual void end(int result) = 0;
+};
+
+// What a backend calls while a dialog runs.
+class DialogHandler {
+public:
+    virtual ~DialogHandler() = default;
+    // The dialog's controls exist; returns the id of the control that is to get
+    // the focus, or 0 for the default.
+    virtual int onInit(DialogView& view) = 0;
+    // A control sent a notification (a click, a selection change, ...).
+    virtual void onCommand(DialogView& view, int controlId, int notifyCode) = 0;
+    // A system command of the library's own (the help requests 801 to 804).
+    virtual void onSysCommand(DialogView& view, int code) = 0;
+};
+
+enum class MessageIcon { None, Stop, Exclamation, Question, Information };
+enum class MessageButtons { Ok, OkCancel, YesNo };
+// Answers of a message box, the Win32 ids.
+inline constexpr int kIdOk = 1, kIdCancel = 2, kIdYes = 6, kIdNo = 7;
+
+struct MessageRequest {
+    WindowRef owner = 0;
+    std::string text;
+    std::optional<std::string> caption;  // none: the system's default caption
+    MessageIcon icon = MessageIcon::Stop;
+    MessageButtons buttons = MessageButtons::Ok;
+};
+
+struct FileRequest {
+    WindowRef owner = 0;
+    bool save = false;
+    std::string title;
+    std::string filter;        // description|pattern|... with '|' separators
+    std::string defaultExtension;
+    std::string initialName;
+    std::uint32_t flags = 0;   // OFN_ flags
+    std::size_t capacity = 260;
+};
+
+enum class HelpKind { Context, Contents, Key, HelpOnHelp };
+
+struct HelpRequest {
+    WindowRef owner = 0;
+    std::string file;
+    HelpKind kind = HelpKind::Context;
+    std::uint32_t context = 0;
+    std::string key;
+};
+
+// Services outside one dialog's controls.
+class UiServices {
+public:
+    virtual ~UiServices() = default;
+    // Runs the named template modally under handler; returns the value given
+    // to DialogView::end, or -1 when the template cannot be created.
+    virtual int runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) = 0;
+    virtual int messageBox(const MessageRequest& request) = 0;
+    // The chosen path, or nothing when the user cancelled.
+    virtual std::optional<std::string> chooseFile(const FileRequest& request) = 0;
+    virtual void help(const HelpRequest& request) = 0;
+    // The window that has the focus (owner of some message boxes).
+    virtual WindowRef focusWindow() = 0;
+    // Title of a window, cut at capacity - 1 characters.
+    virtual std::string windowTitle(WindowRef window, std::size_t capacity) = 0;
+    // Shows the wait cursor until the returned token is restored.
+    virtual std::uintptr_t beginWait() = 0;
+    virtual void endWait(std::uintptr_t previous) = 0;
+    virtual void beep() = 0;
+};
+
+// The services the library uses; set by the backend before any export runs.
+UiServices& ui();
+void setUi(UiServices* services);
+
+}  // namespace kvs

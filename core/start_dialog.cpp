@@ -1,0 +1,115 @@
+// The exported entry points StartDialog, ReinitDialogs and SetDlgSortList.
+#include <algorithm>
+
+#include "core/command_queue.h"
+#include "core/descriptor.h"
+#include "core/families.h"
+#include "core/launcher.h"
+#include "core/library_state.h"
+#include "include/kvs_dlg.h"
+
+namespace kvs {
+
+namespace {
+
+// Ids the running dialog must keep its state through a reinitialisation.
+constexpr std::uint16_t kKeepStateWhileRunning[] = {218, 219, 221, 232, 260, 261, 262, 289};
+
+void runCase(const DispatchRow& row, WindowRef owner) {
+    if (row.launch == Launch::Special) {
+        runSpecialCommand(row.id);
+        return;
+    }
+    Descriptor* descriptor = descriptorFor(row.id);
+    if (!descriptor) return;
+    LibraryState& lib = library();
+    const bool hasSlots = row.firstSlot > 0;
+    if (hasSlots)
+        for (int slot = row.firstSlot; slot <= row.lastSlot; ++slot)
+            lib.optionSlots[static_cast<std::size_t>(slot - 1)] = descriptor->extra[static_cast<std::size_t>(slot - row.firstSlot)];
+    const int result = launchDialog(row, *descriptor, owner);
+    if (result == 1 && hasSlots)
+        for (int slot = row.firstSlot; slot <= row.lastSlot; ++slot)
+            descriptor->extra[static_cast<std::size_t>(slot - row.firstSlot)] = lib.optionSlots[static_cast<std::size_t>(slot - 1)];
+}
+
+void dispatch(std::uint16_t id, Family family, WindowRef owner) {
+    LibraryState& lib = library();
+    lib.currentCommandId = id;
+    if (const DispatchRow* row = findDispatchRow(id)) runCase(*row, owner);
+    if (family == Family::Data) {
+        lib.optionSlots[0] = -1;
+        lib.optionSlots[1] = -2;
+    }
+}
+
+// A StartDialog made while another runs (from a host timer, say) must not
+// pull the running dialog's state away: only the outermost call flushes and
+// resets.
+int nesting = 0;
+
+}  // namespace
+
+std::int32_t startDialog(std::uint32_t commandId, WindowRef owner, const char* helpFile) {
+    LibraryState& lib = library();
+    const bool outermost = nesting == 0;
+    const auto savedId = lib.currentCommandId;
+    const auto savedSlots = lib.optionSlots;
+    const auto savedHost = lib.hostWindow;
+    ++nesting;
+    setHelpPath(helpFile);
+    lib.hostWindow = owner;
+    const auto id = static_cast<std::uint16_t>(commandId & 0xFFFF);
+    Family family{};
+    if (familyOf(id, family)) dispatch(id, family, owner);
+    --nesting;
+    if (!outermost) {
+        lib.currentCommandId = savedId;
+        lib.optionSlots = savedSlots;
+        lib.hostWindow = savedHost;
+        return 1;
+    }
+    queue::flush();
+    lib.optionSlots.fill(-1);
+    queue::clearCount();
+    lib.currentCommandId = kNoCommand;
+    return 1;
+}
+
+std::int32_t reinitDialogs(std::int32_t freeFlag) {
+    LibraryState& lib = library();
+    lib.optionSlots.fill(-1);
+    if (std::find(std::begin(kKeepStateWhileRunning), std::end(kKeepStateWhileRunning), lib.currentCommandId) !=
+        std::end(kKeepStateWhileRunning))
+        return 1;
+    resetAllSelections(freeFlag != 0);
+    resetFamilyDefaults();
+    return 1;
+}
+
+}  // namespace kvs
+
+extern "C" {
+
+int32_t KVS_CALL StartDialog(uint32_t commandId, KvsWindow owner, const char* helpFile) {
+    try {
+        return kvs::startDialog(commandId, reinterpret_cast<kvs::WindowRef>(owner), helpFile);
+    } catch (...) {
+        return 1;
+    }
+}
+
+int32_t KVS_CALL ReinitDialogs(int32_t freeMemory) {
+    try {
+        return kvs::reinitDialogs(freeMemory);
+    } catch (...) {
+        return 1;
+    }
+}
+
+int32_t KVS_CALL SetDlgSortList(int32_t sorted) {
+    kvs::library().sortList = sorted;
+    return sorted;
+}
+
+}  // extern "C"

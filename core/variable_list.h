@@ -1,0 +1,58 @@
+// Filling list boxes with variable names, and the name <-> index catalogue
+// that turns target lists back into selection arrays.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "core/seam.h"
+
+namespace kvs {
+
+inline constexpr std::size_t kNameLength = 12;
+
+// The variables one source list was filled from: names by index, and the
+// index of every listed name, so a target list maps back in linear time.
+class VariableCatalogue {
+public:
+    void clear();
+    void add(std::string name, bool listed);
+    // The index of a listed name, or -1.
+    std::int32_t indexOf(std::string_view name) const;
+    // The name at an index, or empty when out of range.
+    std::string_view nameAt(std::int32_t index) const;
+    std::size_t size() const { return names_.size(); }
+
+private:
+    std::vector<std::string> names_;
+    std::unordered_map<std::string, std::int32_t> listed_;
+};
+
+// Cuts a blank-padded kernel name field at the first blank after its first
+// character; at most 12 characters are kept.
+std::string nameFromField(std::string_view field);
+
+// Adds variables 1..count of the data file in use to list listId. Names
+// holding "$" are skipped when numericOnly. Dialog 46 (and 677) list "Case"
+// first. A full list box stops the filling with the too-many message.
+void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t count, bool numericOnly,
+                      std::uint16_t commandId, VariableCatalogue& catalogue);
+
+// Shows the variables of another data file in list listId; an empty file
+// name does nothing.
+void fillListFromFile(DialogView& view, const std::string& fileName, int listId, ListInsert how,
+                      VariableCatalogue* catalogue);
+
+// Puts the names of a saved selection into a target list, in saved order.
+void restoreSelection(DialogView& view, const std::vector<std::int32_t>& entries, std::int32_t capacity,
+                      int targetId, const VariableCatalogue& catalogue);
+
+// Writes the names of a target list back as indices, at most capacity of
+// them; names the catalogue does not know are passed over.
+void storeSelection(const DialogView& view, int targetId, std::int32_t capacity,
+                    const VariableCatalogue& catalogue, std::vector<std::int32_t>& entries);
+
+}  // namespace kvs

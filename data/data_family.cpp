@@ -1,0 +1,30 @@
+// The data family's part of dispatch: which behaviour serves which id, the
+// descriptor switches, and the defaults of the remembered options.
+#include "core/families.h"
+#include "data/sort_rank_transpose.h"
+
+namespace kvs::data {
+
+DescriptorSettings descriptorSettings(std::uint16_t commandId) {
+    DescriptorSettings settings;
+    switch (commandId) {
+    case 70:  // Standardize, Rank and Transpose work on numbers only
+    case 71:
+    case 75: settings.switch1 = 1; break;
+    default: break;
+    }
+    return settings;
+}
+
+DialogBehaviour* behaviour(std::uint16_t commandId) {
+    switch (commandId) {
+    case 71: return &rankBehaviour();
+    case 72: return &sortBehaviour();
+    case 75: return &transposeBehaviour();
+    default: return nullptr;
+    }
+}
+
+void resetDefaults() { resetSortDefaults(); }
+
+}  // namespace kvs::data

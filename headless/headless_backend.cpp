@@ -1,0 +1,203 @@
+#include "headless/headless_backend.h"
+
+#include <set>
+
+#include "core/lifecycle.h"
+#include "include/kvs_dlg.h"
+#include "standin/host_state.h"
+#include "standin/kernel_state.h"
+
+namespace kvs::headless {
+
+using scenario::Buttons;
+using scenario::ControlInfo;
+using scenario::WindowKind;
+using standin::HostState;
+using standin::KernelState;
+
+namespace {
+
+// The owner window StartDialog is given; its title is the backend's to say.
+const auto kOwner = reinterpret_cast<KvsWindow>(static_cast<std::uintptr_t>(0x10010));
+
+constexpr int kComboEditChange = 5;  // CBN_EDITCHANGE
+
+scenario::ControlKind kindOf(ControlKind kind) {
+    switch (kind) {
+    case ControlKind::Static: return scenario::ControlKind::Static;
+    case ControlKind::Button: return scenario::ControlKind::Button;
+    case ControlKind::Edit: return scenario::ControlKind::Edit;
+    case ControlKind::ListBox: return scenario::ControlKind::ListBox;
+    case ControlKind::ComboBox: return scenario::ControlKind::ComboBox;
+    default: return scenario::ControlKind::Other;
+    }
+}
+
+}  // namespace
+
+void HeadlessBackend::setVariables(const std::vector<std::string>& names) {
+    KernelState::instance().setVariables(names);
+}
+
+void HeadlessBackend::setFile(const std::string& path, const std::vector<std::string>& names) {
+    HostState::instance().setFile(path, names);
+}
+
+void HeadlessBackend::setActiveModules(const std::vector<std::string>& modules) {
+    HostState::instance().setActiveModules(std::set<std::string>(modules.begin(), modules.end()));
+}
+
+void HeadlessBackend::setMatrix(bool matrix) { HostState::instance().matrix = matrix; }
+void HeadlessBackend::setOwnerTitle(const std::string& title) { ui_.setOwnerTitle(title); }
+void HeadlessBackend::failAllocation(int nth) { KernelState::instance().failAllocation(nth); }
+long HeadlessBackend::liveAllocations() { return static_cast<long>(KernelState::instance().liveBlocks()); }
+
+std::int32_t HeadlessBackend::startDialog(std::uint32_t id, const std::string& helpFile) {
+    return StartDialog(id, kOwner, helpFile.c_str());
+}
+
+void HeadlessBackend::reinitDialogs(std::int32_t value) { ReinitDialogs(value); }
+void HeadlessBackend::setSortList(std::int32_t value) { SetDlgSortList(value); }
+
+WindowKind HeadlessBackend::topKind() {
+    const auto window = ui_.top();
+    if (!window) return WindowKind::None;
+    if (window->dialog) return WindowKind::Dialog;
+    return window->message ? WindowKind::Message : WindowKind::Chooser;
+}
+
+std::string HeadlessBackend::topText() {
+    const auto window = ui_.top();
+    if (!window) return {};
+    if (window->dialog) return window->dialog->dialog->caption();
+    if (window->message) return window->message->request.text;
+    return window->chooser->request.title;
+}
+
+DialogWindow* HeadlessBackend::dialog() {
+    const auto window = ui_.top();
+    return window ? window->dialog : nullptr;
+}
+
+std::optional<int> HeadlessBackend::controlByLabel(std::string_view label) {
+    DialogWindow* window = dialog();
+    return window ? window->dialog->findByLabel(label) : std::nullopt;
+}
+
+std::optional<ControlInfo> HeadlessBackend::control(int id) {
+    DialogWindow* window = dialog();
+    const ControlState* state = window ? window->dialog->control(id) : nullptr;
+    if (!state) return std::nullopt;
+    const HeadlessDialog& d = *window->dialog;
+    ControlInfo info;
+    info.kind = kindOf(state->def.kind);
+    info.enabled = state->enabled;
+    info.checkable = state->def.kind == ControlKind::Button && state->def.canCheck();
+    info.checked = info.checkable && d.isChecked(id);
+    info.text = d.text(id);
+    for (const ListEntry& item : state->items) info.items.push_back(item.text);
+    info.comboSelection = info.kind == scenario::ControlKind::ComboBox ? d.comboSelection(id) : -1;
+    return info;
+}
+
+void HeadlessBackend::selectItems(int listId, const std::vector<int>& indices) {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    HeadlessDialog& d = *window->dialog;
+    const int count = d.listCount(listId);
+    for (int i = 0; i < count; ++i) d.listSelect(listId, i, false);
+    for (int index : indices) d.listSelect(listId, index, true);
+    window->handler->onCommand(d, listId, kListSelChange);
+}
+
+void HeadlessBackend::click(int id) {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    window->dialog->click(id);
+    window->handler->onCommand(*window->dialog, id, kButtonClicked);
+}
+
+void HeadlessBackend::doubleClick(int listId, int index) {
+    selectItems(listId, {index});
+    if (DialogWindow* window = dialog()) window->handler->onCommand(*window->dialog, listId, kListDblClick);
+}
+
+void HeadlessBackend::typeText(int id, const std::string& text) {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    window->dialog->setText(id, text);
+    window->handler->onCommand(*window->dialog, id, window->dialog->isComboBox(id) ? kComboEditChange : kEditChange);
+}
+
+void HeadlessBackend::chooseEntry(int id, int index) {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    HeadlessDialog& d = *window->dialog;
+    if (d.isComboBox(id)) {
+        d.comboSelect(id, index);
+        window->handler->onCommand(d, id, kComboSelChange);
+    } else {
+        selectItems(id, {index});
+    }
+}
+
+void HeadlessBackend::sysCommand(int code) {
+    if (DialogWindow* window = dialog()) window->handler->onSysCommand(*window->dialog, code);
+}
+
+Buttons HeadlessBackend::messageButtons() {
+    const auto window = ui_.top();
+    if (!window || !window->message) return Buttons::Ok;
+    switch (window->message->request.buttons) {
+    case MessageButtons::OkCancel: return Buttons::OkCancel;
+    case MessageButtons::YesNo: return Buttons::YesNo;
+    case MessageButtons::Ok: break;
+    }
+    return Buttons::Ok;
+}
+
+void HeadlessBackend::answerMessage(int buttonId) {
+    const auto window = ui_.top();
+    if (window && window->message) window->message->answer = buttonId;
+}
+
+void HeadlessBackend::answerChooser(const std::optional<std::string>& path) {
+    const auto window = ui_.top();
+    if (!window || !window->chooser) return;
+    window->chooser->answered = true;
+    window->chooser->path = path;
+}
+
+HeadlessRunner::HeadlessRunner(const ResourceSet& resources)
+    : ui_(resources, [this](const std::string& line) { emit(line); }),
+      backend_(ui_),
+      engine_(backend_, [this](const std::string& line) { emit(line); }) {
+    ui_.setDriver(Driver{[this] { return engine_.step(); }, [this] { engine_.windowLeftOpen(); }});
+}
+
+void HeadlessRunner::emit(const std::string& line) {
+    transcript_ += line;
+    transcript_ += '\n';
+}
+
+std::string HeadlessRunner::run(std::string_view source) {
+    transcript_.clear();
+    onLibraryUnload();
+    KernelState::instance().reset();
+    HostState& host = HostState::instance();
+    host.reset();
+    host.setSink([this](const std::string& line) { emit(line); });
+    ui_.setOwnerTitle(scenario::Engine::kDefaultTitle);
+    setUi(&ui_);
+    onLibraryLoad();
+
+    engine_.load(source);
+    while (engine_.step()) {
+    }
+    onLibraryUnload();
+    host.setSink(nullptr);
+    setUi(nullptr);
+    return transcript_;
+}
+
+}  // namespace kvs::headless

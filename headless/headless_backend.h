@@ -1,0 +1,66 @@
+// Scenarios run headlessly: the scenario engine over in-memory windows and
+// the native stand-ins of the host and the kernel.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "headless/headless_ui.h"
+#include "tools/scenario/engine.h"
+
+namespace kvs::headless {
+
+class HeadlessBackend : public scenario::Backend {
+public:
+    explicit HeadlessBackend(HeadlessUi& ui) : ui_(ui) {}
+
+    void setVariables(const std::vector<std::string>& names) override;
+    void setFile(const std::string& path, const std::vector<std::string>& names) override;
+    void setActiveModules(const std::vector<std::string>& modules) override;
+    void setMatrix(bool matrix) override;
+    void setOwnerTitle(const std::string& title) override;
+    void failAllocation(int nth) override;
+    long liveAllocations() override;
+
+    std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) override;
+    void reinitDialogs(std::int32_t value) override;
+    void setSortList(std::int32_t value) override;
+
+    scenario::WindowKind topKind() override;
+    std::string topText() override;
+    std::optional<int> controlByLabel(std::string_view label) override;
+    std::optional<scenario::ControlInfo> control(int id) override;
+    void selectItems(int listId, const std::vector<int>& indices) override;
+    void click(int id) override;
+    void doubleClick(int listId, int index) override;
+    void typeText(int id, const std::string& text) override;
+    void chooseEntry(int id, int index) override;
+    void sysCommand(int code) override;
+    scenario::Buttons messageButtons() override;
+    void answerMessage(int buttonId) override;
+    void answerChooser(const std::optional<std::string>& path) override;
+    void dismissTop() override { ui_.dismissTop(); }
+
+private:
+    DialogWindow* dialog();
+
+    HeadlessUi& ui_;
+};
+
+// Runs scenarios, each from a freshly loaded library, and returns their
+// transcripts.
+class HeadlessRunner {
+public:
+    explicit HeadlessRunner(const ResourceSet& resources);
+    std::string run(std::string_view source);
+
+private:
+    void emit(const std::string& line);
+
+    std::string transcript_;
+    HeadlessUi ui_;
+    HeadlessBackend backend_;
+    scenario::Engine engine_;
+};
+
+}  // namespace kvs::headless

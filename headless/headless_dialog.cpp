@@ -1,0 +1,343 @@
+#include "headless/headless_dialog.h"
+
+#include <algorithm>
+#include <atomic>
+
+namespace kvs::headless {
+namespace {
+
+// A Win32 control keeps a C string: text ends at an embedded NUL.
+std::string cText(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
+
+std::string_view trimBlanks(std::string_view s) {
+    const auto first = s.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    const auto last = s.find_last_not_of(" \t");
+    return s.substr(first, last - first + 1);
+}
+
+int charClass(unsigned char c) {
+    if (c >= '0' && c <= '9') return 1;
+    if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z')) return 2;
+    return c >= 0x80 ? 3 : 0;
+}
+
+unsigned char fold(unsigned char c) { return (c >= 'A' && c <= 'Z') ? static_cast<unsigned char>(c - 'A' + 'a') : c; }
+
+bool validIndex(const std::vector<ListEntry>& items, int index) {
+    return index >= 0 && static_cast<std::size_t>(index) < items.size();
+}
+
+int firstSelected(const std::vector<ListEntry>& items) {
+    const auto it = std::find_if(items.begin(), items.end(), [](const ListEntry& e) { return e.selected; });
+    return it == items.end() ? -1 : static_cast<int>(it - items.begin());
+}
+
+void selectAll(std::vector<ListEntry>& items, bool on) {
+    for (ListEntry& e : items) e.selected = on;
+}
+
+void selectOnly(std::vector<ListEntry>& items, int index) {
+    selectAll(items, false);
+    items[static_cast<std::size_t>(index)].selected = true;
+}
+
+// After every entry that sorts before or equal to text, so equal names keep
+// the order they were added in.
+std::size_t sortedPosition(const std::vector<ListEntry>& items, std::string_view text) {
+    const auto it = std::upper_bound(items.begin(), items.end(), text, [](std::string_view t, const ListEntry& e) {
+        return compareListText(t, e.text) < 0;
+    });
+    return static_cast<std::size_t>(it - items.begin());
+}
+
+int insertEntry(std::vector<ListEntry>& items, std::string_view text, bool sorted) {
+    const std::size_t at = sorted ? sortedPosition(items, text) : items.size();
+    items.insert(items.begin() + static_cast<std::ptrdiff_t>(at), ListEntry{cText(text), false});
+    return static_cast<int>(at);
+}
+
+WindowRef nextHandle() {
+    static std::atomic<WindowRef> last{0};
+    return ++last;
+}
+
+}  // namespace
+
+int compareListText(std::string_view a, std::string_view b) {
+    const std::size_t n = std::min(a.size(), b.size());
+    for (std::size_t i = 0; i < n; ++i) {
+        const auto ca = static_cast<unsigned char>(a[i]);
+        const auto cb = static_cast<unsigned char>(b[i]);
+        if (charClass(ca) != charClass(cb)) return charClass(ca) < charClass(cb) ? -1 : 1;
+        if (fold(ca) != fold(cb)) return fold(ca) < fold(cb) ? -1 : 1;
+    }
+    if (a.size() == b.size()) return 0;
+    return a.size() < b.size() ? -1 : 1;
+}
+
+std::string withoutMnemonics(std::string_view text) {
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '&') {
+            out += text[i];
+        } else if (i + 1 < text.size()) {
+            out += text[++i];
+        }
+    }
+    return out;
+}
+
+HeadlessDialog::HeadlessDialog(const DialogTemplate& dialogTemplate)
+    : handle_(nextHandle()), templateName_(dialogTemplate.name), caption_(dialogTemplate.caption) {
+    controls_.reserve(dialogTemplate.controls.size());
+    for (const ControlTemplate& def : dialogTemplate.controls) {
+        ControlState state;
+        state.def = def;
+        state.text = def.text;
+        state.enabled = !def.disabled();
+        controls_.push_back(std::move(state));
+    }
+}
+
+const ControlState* HeadlessDialog::find(int id) const {
+    const auto it = std::find_if(controls_.begin(), controls_.end(),
+                                 [id](const ControlState& c) { return c.def.id == id; });
+    return it == controls_.end() ? nullptr : &*it;
+}
+
+ControlState* HeadlessDialog::find(int id) {
+    return const_cast<ControlState*>(static_cast<const HeadlessDialog*>(this)->find(id));
+}
+
+const ControlState* HeadlessDialog::findKind(int id, ControlKind kind) const {
+    const ControlState* c = find(id);
+    return c != nullptr && c->def.kind == kind ? c : nullptr;
+}
+
+ControlState* HeadlessDialog::findKind(int id, ControlKind kind) {
+    ControlState* c = find(id);
+    return c != nullptr && c->def.kind == kind ? c : nullptr;
+}
+
+std::optional<ControlKind> HeadlessDialog::kindOf(int id) const {
+    const ControlState* c = find(id);
+    if (c == nullptr) return std::nullopt;
+    return c->def.kind;
+}
+
+// ---------------------------------------------------------------------------
+// Window text, state and focus
+
+std::string HeadlessDialog::text(int id) const {
+    const ControlState* c = find(id);
+    if (c == nullptr) return {};
+    if (c->def.comboDropList()) {
+        const int selected = firstSelected(c->items);
+        return selected < 0 ? std::string() : c->items[static_cast<std::size_t>(selected)].text;
+    }
+    return c->text;
+}
+
+// A drop-down list has no edit field: setting its text changes nothing.
+void HeadlessDialog::setText(int id, std::string_view text) {
+    ControlState* c = find(id);
+    if (c != nullptr && !c->def.comboDropList()) c->text = cText(text);
+}
+
+bool HeadlessDialog::isEnabled(int id) const {
+    const ControlState* c = find(id);
+    return c != nullptr && c->enabled;
+}
+
+// Disabling the focused control leaves the dialog without focus.
+void HeadlessDialog::enable(int id, bool on) {
+    ControlState* c = find(id);
+    if (c == nullptr) return;
+    c->enabled = on;
+    if (!on && focus_ == id) focus_ = 0;
+}
+
+bool HeadlessDialog::isChecked(int id) const {
+    const ControlState* c = find(id);
+    return c != nullptr && c->def.canCheck() && c->check == kChecked;
+}
+
+// BM_SETCHECK: only check boxes and radio buttons keep a state, and checking
+// a radio button does not uncheck the others (only a click does).
+void HeadlessDialog::setChecked(int id, bool on) {
+    ControlState* c = find(id);
+    if (c != nullptr && c->def.canCheck()) c->check = on ? kChecked : kUnchecked;
+}
+
+// A disabled control does not take the focus.
+void HeadlessDialog::setFocus(int id) {
+    const ControlState* c = find(id);
+    if (c != nullptr && c->enabled) focus_ = id;
+}
+
+void HeadlessDialog::setRedraw(int id, bool on) {
+    ControlState* c = find(id);
+    if (c != nullptr) c->redraw = on;
+}
+
+void HeadlessDialog::end(int result) {
+    ended_ = true;
+    result_ = result;
+}
+
+// ---------------------------------------------------------------------------
+// List boxes
+
+int HeadlessDialog::listCount(int id) const {
+    const ControlState* c = findKind(id, ControlKind::ListBox);
+    return c == nullptr ? 0 : static_cast<int>(c->items.size());
+}
+
+std::string HeadlessDialog::listText(int id, int index) const {
+    const ControlState* c = findKind(id, ControlKind::ListBox);
+    if (c == nullptr || !validIndex(c->items, index)) return {};
+    return c->items[static_cast<std::size_t>(index)].text;
+}
+
+// LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
+int HeadlessDialog::listAdd(int id, std::string_view text, ListInsert how) {
+    ControlState* c = findKind(id, ControlKind::ListBox);
+    if (c == nullptr) return kListError;
+    if (c->items.size() >= listCapacity_) return kListNoSpace;
+    return insertEntry(c->items, text, how == ListInsert::Sorted && c->def.listSorted());
+}
+
+void HeadlessDialog::listDelete(int id, int index) {
+    ControlState* c = findKind(id, ControlKind::ListBox);
+    if (c != nullptr && validIndex(c->items, index)) c->items.erase(c->items.begin() + index);
+}
+
+void HeadlessDialog::listClear(int id) {
+    ControlState* c = findKind(id, ControlKind::ListBox);
+    if (c != nullptr) c->items.clear();
+}
+
+// LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
+std::vector<int> HeadlessDialog::listSelection(int id) const {
+    const ControlState* c = findKind(id, ControlKind::ListBox);
+    std::vector<int> selected;
+    if (c == nullptr) return selected;
+    for (std::size_t i = 0; i < c->items.size(); ++i) {
+        if (c->items[i].selected) selected.push_back(static_cast<int>(i));
+    }
+    return selected;
+}
+
+// Multi-select: LB_SETSEL, where index -1 means every item. Single-select:
+// selecting makes the item the only selection; deselecting the selected item
+// (or -1) leaves none.
+void HeadlessDialog::listSelect(int id, int index, bool on) {
+    ControlState* c = findKind(id, ControlKind::ListBox);
+    if (c == nullptr) return;
+    std::vector<ListEntry>& items = c->items;
+    if (c->def.listMulti()) {
+        if (index == -1) selectAll(items, on);
+        else if (validIndex(items, index)) items[static_cast<std::size_t>(index)].selected = on;
+    } else if (on) {
+        if (validIndex(items, index)) selectOnly(items, index);
+    } else if (index == -1 || (validIndex(items, index) && items[static_cast<std::size_t>(index)].selected)) {
+        selectAll(items, false);
+    }
+}
+
+// LB_SETCURSEL: ignored by multi-select list boxes; -1 clears; an index out
+// of range changes nothing.
+void HeadlessDialog::listSetCurrent(int id, int index) {
+    ControlState* c = findKind(id, ControlKind::ListBox);
+    if (c == nullptr || c->def.listMulti()) return;
+    if (index == -1) selectAll(c->items, false);
+    else if (validIndex(c->items, index)) selectOnly(c->items, index);
+}
+
+// ---------------------------------------------------------------------------
+// Combo boxes
+
+void HeadlessDialog::comboAdd(int id, std::string_view text) {
+    ControlState* c = findKind(id, ControlKind::ComboBox);
+    if (c != nullptr) insertEntry(c->items, text, c->def.comboSorted());
+}
+
+// CB_RESETCONTENT empties the list and the edit field.
+void HeadlessDialog::comboClear(int id) {
+    ControlState* c = findKind(id, ControlKind::ComboBox);
+    if (c == nullptr) return;
+    c->items.clear();
+    c->text.clear();
+}
+
+int HeadlessDialog::comboSelection(int id) const {
+    const ControlState* c = findKind(id, ControlKind::ComboBox);
+    return c == nullptr ? -1 : firstSelected(c->items);
+}
+
+// CB_SETCURSEL copies the item into the edit field; -1 or an index out of
+// range clears both the selection and the edit field.
+void HeadlessDialog::comboSelect(int id, int index) {
+    ControlState* c = findKind(id, ControlKind::ComboBox);
+    if (c == nullptr) return;
+    if (validIndex(c->items, index)) {
+        selectOnly(c->items, index);
+        c->text = c->items[static_cast<std::size_t>(index)].text;
+    } else {
+        selectAll(c->items, false);
+        c->text.clear();
+    }
+}
+
+// ---------------------------------------------------------------------------
+// Driver side
+
+bool HeadlessDialog::click(int id) {
+    const auto it = std::find_if(controls_.begin(), controls_.end(),
+                                 [id](const ControlState& c) { return c.def.id == id; });
+    if (it == controls_.end() || it->def.kind != ControlKind::Button || it->def.isGroupBox()) return false;
+    ControlState& c = *it;
+    if (c.def.isAuto() && c.def.isRadio()) {
+        checkAutoRadio(static_cast<std::size_t>(it - controls_.begin()));
+    } else if (c.def.isAuto() && c.def.isThreeState()) {
+        c.check = (c.check + 1) % 3;  // unchecked, checked, indeterminate
+    } else if (c.def.isAuto()) {
+        c.check = c.check == kChecked ? kUnchecked : kChecked;
+    }
+    if (c.enabled) focus_ = id;
+    return true;
+}
+
+// The group runs from the nearest WS_GROUP control at or before the button
+// up to, not including, the next WS_GROUP control.
+void HeadlessDialog::checkAutoRadio(std::size_t index) {
+    std::size_t first = index;
+    while (first > 0 && !controls_[first].def.group()) --first;
+    std::size_t last = index + 1;
+    while (last < controls_.size() && !controls_[last].def.group()) ++last;
+    for (std::size_t i = first; i < last; ++i) {
+        const ControlTemplate& def = controls_[i].def;
+        if (i != index && def.isRadio() && def.isAuto()) controls_[i].check = kUnchecked;
+    }
+    controls_[index].check = kChecked;
+}
+
+std::optional<int> HeadlessDialog::findByLabel(std::string_view label) const {
+    const std::string_view wanted = trimBlanks(label);
+    const auto matches = [wanted](const ControlState& c) {
+        return trimBlanks(withoutMnemonics(c.text)) == wanted;
+    };
+    for (std::size_t i = 0; i < controls_.size(); ++i) {
+        const ControlState& c = controls_[i];
+        const ControlKind kind = c.def.kind;
+        if (kind == ControlKind::Button && !c.def.isGroupBox() && matches(c)) return c.def.id;
+        const bool labelled = kind == ControlKind::ListBox || kind == ControlKind::Edit || kind == ControlKind::ComboBox;
+        if (labelled && i > 0 && controls_[i - 1].def.kind == ControlKind::Static && matches(controls_[i - 1])) {
+            return c.def.id;
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace kvs::headless

@@ -1,0 +1,128 @@
+#include "headless/headless_ui.h"
+
+#include "tools/scenario/transcript.h"
+
+namespace kvs::headless {
+
+using scenario::quote;
+
+namespace {
+
+const char* iconName(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Stop: return "stop";
+    case MessageIcon::Exclamation: return "exclamation";
+    case MessageIcon::Question: return "question";
+    case MessageIcon::Information: return "info";
+    case MessageIcon::None: break;
+    }
+    return "none";
+}
+
+// The caption Windows gives a message box that names none.
+constexpr const char* kDefaultMessageCaption = "Error";
+
+}  // namespace
+
+HeadlessUi::HeadlessUi(const ResourceSet& resources, TranscriptSink transcript)
+    : resources_(resources), transcript_(std::move(transcript)) {}
+
+std::optional<Window> HeadlessUi::top() const {
+    if (stack_.empty()) return std::nullopt;
+    return stack_.back();
+}
+
+void HeadlessUi::pumpUntil(const std::function<bool()>& done) {
+    while (!done()) {
+        if (driver_.step && driver_.step()) continue;
+        if (driver_.windowLeftOpen) driver_.windowLeftOpen();
+        else dismissTop();
+    }
+}
+
+void HeadlessUi::dismissTop() {
+    if (stack_.empty()) return;
+    const Window window = stack_.back();
+    if (window.dialog) {
+        DialogWindow& d = *window.dialog;
+        d.handler->onCommand(*d.dialog, kIdCancel, kButtonClicked);
+        if (!d.dialog->ended()) d.dialog->end(kIdCancel);
+    } else if (window.message) {
+        window.message->answer = window.message->request.buttons == MessageButtons::YesNo ? kIdNo
+                                 : window.message->request.buttons == MessageButtons::OkCancel ? kIdCancel
+                                                                                                 : kIdOk;
+    } else if (window.chooser) {
+        window.chooser->answered = true;
+        window.chooser->path.reset();
+    }
+}
+
+int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler& handler) {
+    const DialogTemplate* found = resources_.dialog(templateName);
+    if (!found) return -1;
+    DialogWindow window{std::make_unique<HeadlessDialog>(*found), &handler};
+    transcript_("dialog " + quote(window.dialog->caption()));
+    stack_.push_back(Window{&window, nullptr, nullptr});
+    const int focus = handler.onInit(*window.dialog);
+    (void)focus;
+    pumpUntil([&] { return window.dialog->ended(); });
+    stack_.pop_back();
+    return window.dialog->result();
+}
+
+int HeadlessUi::messageBox(const MessageRequest& request) {
+    MessageWindow window{request, 0};
+    const std::string caption = request.caption ? *request.caption : kDefaultMessageCaption;
+    transcript_("message " + quote(caption) + " " + iconName(request.icon) + " " + quote(request.text));
+    stack_.push_back(Window{nullptr, &window, nullptr});
+    pumpUntil([&] { return window.answer != 0; });
+    stack_.pop_back();
+    return window.answer;
+}
+
+std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
+    ChooserWindow window{request, false, std::nullopt};
+    transcript_(std::string("chooser ") + (request.save ? "save " : "open ") + quote(request.title) + " " +
+                quote(request.initialName));
+    stack_.push_back(Window{nullptr, nullptr, &window});
+    pumpUntil([&] { return window.answered; });
+    stack_.pop_back();
+    if (!window.path) return std::nullopt;
+    std::string path = withDefaultExtension(*window.path, request.defaultExtension);
+    if (path.size() >= request.capacity) path.resize(request.capacity - 1);
+    return path;
+}
+
+void HeadlessUi::help(const HelpRequest& request) {
+    std::string line = "help " + quote(request.file);
+    switch (request.kind) {
+    case HelpKind::Context: line += " context " + std::to_string(request.context); break;
+    case HelpKind::Contents: line += " contents"; break;
+    case HelpKind::Key: line += " key " + quote(request.key); break;
+    case HelpKind::HelpOnHelp: line += " helponhelp"; break;
+    }
+    transcript_(line);
+}
+
+WindowRef HeadlessUi::focusWindow() {
+    for (auto it = stack_.rbegin(); it != stack_.rend(); ++it)
+        if (it->dialog) return it->dialog->dialog->handle();
+    return 0;
+}
+
+std::string HeadlessUi::windowTitle(WindowRef, std::size_t capacity) {
+    std::string title = ownerTitle_;
+    if (capacity == 0) return {};
+    if (title.size() >= capacity) title.resize(capacity - 1);
+    return title;
+}
+
+std::string HeadlessUi::withDefaultExtension(const std::string& path, const std::string& extension) {
+    if (extension.empty()) return path;
+    const std::size_t slash = path.find_last_of("\\/");
+    const std::size_t nameStart = slash == std::string::npos ? 0 : slash + 1;
+    if (path.find('.', nameStart) != std::string::npos) return path;
+    return path + "." + extension;
+}
+
+}  // namespace kvs::headless

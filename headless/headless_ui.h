@@ -1,0 +1,89 @@
+// The headless backend's user-interface services: a stack of in-memory
+// windows (dialogs, message boxes, file choosers) that a scenario driver acts
+// on while the library waits in its "modal loops".
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/seam.h"
+#include "headless/headless_dialog.h"
+#include "headless/rc_template.h"
+
+namespace kvs::headless {
+
+// Acts on the topmost window while the library waits in a modal loop: runs
+// the next scenario statement, false when none is left; and, when none is
+// left, reports and closes the window that stays open.
+struct Driver {
+    std::function<bool()> step;
+    std::function<void()> windowLeftOpen;
+};
+
+struct DialogWindow {
+    std::unique_ptr<HeadlessDialog> dialog;
+    DialogHandler* handler = nullptr;
+};
+
+struct MessageWindow {
+    MessageRequest request;
+    int answer = 0;  // 0 until answered
+};
+
+struct ChooserWindow {
+    FileRequest request;
+    bool answered = false;
+    std::optional<std::string> path;
+};
+
+struct Window {
+    DialogWindow* dialog = nullptr;
+    MessageWindow* message = nullptr;
+    ChooserWindow* chooser = nullptr;
+};
+
+using TranscriptSink = std::function<void(const std::string&)>;
+
+class HeadlessUi : public UiServices {
+public:
+    HeadlessUi(const ResourceSet& resources, TranscriptSink transcript);
+
+    void setDriver(Driver driver) { driver_ = std::move(driver); }
+    void setOwnerTitle(std::string title) { ownerTitle_ = std::move(title); }
+
+    // The window statements act on; none when nothing is open.
+    std::optional<Window> top() const;
+
+    // Answers the topmost window as a user closing it without a choice
+    // would: Cancel on dialogs and choosers, the cancelling button of a
+    // message box.
+    void dismissTop();
+
+    int runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    int messageBox(const MessageRequest& request) override;
+    std::optional<std::string> chooseFile(const FileRequest& request) override;
+    void help(const HelpRequest& request) override;
+    WindowRef focusWindow() override;
+    std::string windowTitle(WindowRef window, std::size_t capacity) override;
+    std::uintptr_t beginWait() override { return 0; }
+    void endWait(std::uintptr_t) override {}
+    void beep() override {}
+
+    // What the common file dialog returns for a typed name: the default
+    // extension is added to a name without one.
+    static std::string withDefaultExtension(const std::string& path, const std::string& extension);
+
+private:
+    void pumpUntil(const std::function<bool()>& done);
+
+    const ResourceSet& resources_;
+    TranscriptSink transcript_;
+    Driver driver_;
+    std::string ownerTitle_;
+    std::vector<Window> stack_;
+};
+
+}  // namespace kvs::headless

@@ -1,0 +1,33 @@
+/* Control ids shared by every variable dialog template. */
+#ifndef KVS_COMMON_IDS_H
+#define KVS_COMMON_IDS_H
+
+#define IDC_SOURCE          4
+#define IDC_SOURCE2         5
+#define IDC_ADD1            6
+#define IDC_REMOVE1         7
+#define IDC_ADD2            8
+#define IDC_REMOVE2         9
+#define IDC_TARGET1         10
+#define IDC_TARGET2         11
+#define IDC_HELP            12
+#define IDC_RESETALL        13
+#define IDC_ADD5            51
+#define IDC_REMOVE5         52
+#define IDC_TARGET5         53
+#define IDC_REMOVE3         248
+#define IDC_REMOVE4         249
+#define IDC_ADD4            250
+#define IDC_ADD3            251
+#define IDC_TARGET3         252
+#define IDC_TARGET4         253
+#define IDC_CONTINUE        1001
+#define IDC_SAVEFILE        99
+
+/* System commands the dialogs answer with help. */
+#define IDM_HELP_CONTENTS   801
+#define IDM_HELP_SEARCH     802
+#define IDM_HELP_ON_HELP    803
+#define IDM_HELP_CONTEXT    804
+
+#endif

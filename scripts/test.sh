@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Every test: unit tests and scenarios natively (plain and under the
+# sanitizers), and the Windows builds.
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+"$root/scripts/setup.sh"
+
+for config in native native-sanitize; do
+  echo "== $config"
+  "$root/scripts/build.sh" "$config"
+  ctest --test-dir "$root/build/$config" --output-on-failure -j2
+done
+
+for arch in i686 x86_64; do
+  echo "== $arch"
+  "$root/scripts/build.sh" "$arch"
+done

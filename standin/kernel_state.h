@@ -1,0 +1,40 @@
+// The stand-in statistics kernel: the variables of the data file in use and
+// an allocator that counts what it hands out and can be told to fail.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace kvs::standin {
+
+class KernelState {
+public:
+    static KernelState& instance();
+
+    void setVariables(std::vector<std::string> names);
+    const std::vector<std::string>& variables() const { return variables_; }
+
+    // Allocation calls from now on: the nth one (1 = the next) fails; 0: none.
+    void failAllocation(int nth) { failCountdown_ = nth; }
+    void* reallocate(void** block, std::int32_t count, std::int32_t elementSize);
+    void release(void** block);
+
+    int allocations() const { return allocations_; }
+    int frees() const { return frees_; }
+    std::size_t liveBlocks() const { return live_.size(); }
+
+    // Releases every live block and forgets all counts and settings.
+    void reset();
+
+private:
+    std::vector<std::string> variables_;
+    std::unordered_map<void*, std::size_t> live_;
+    int allocations_ = 0;
+    int frees_ = 0;
+    int failCountdown_ = 0;
+};
+
+}  // namespace kvs::standin

@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "core/descriptor.h"
+#include "core/dispatch_table.h"
+
+namespace {
+
+using kvs::DispatchRow;
+using kvs::Family;
+using kvs::Launch;
+
+TEST(DispatchTable, EveryRowLiesInTheRangeOfItsFamily) {
+    for (const DispatchRow& row : kvs::dispatchTable()) {
+        Family family{};
+        ASSERT_TRUE(kvs::familyOf(row.id, family)) << row.id;
+        EXPECT_EQ(family, row.family) << row.id;
+        if (row.launch != Launch::Special) {
+            EXPECT_NE(row.templateName, nullptr) << row.id;
+            EXPECT_NE(row.caption, nullptr) << row.id;
+            EXPECT_TRUE(row.mode >= 0 && row.mode <= 2) << row.id;
+        }
+    }
+}
+
+TEST(DispatchTable, RangesIncludeTheOutliers) {
+    Family family{};
+    EXPECT_TRUE(kvs::familyOf(1124, family));
+    EXPECT_EQ(family, Family::Graph);
+    EXPECT_TRUE(kvs::familyOf(483, family));
+    EXPECT_EQ(family, Family::Statistics);
+    EXPECT_TRUE(kvs::familyOf(41, family));
+    EXPECT_EQ(family, Family::Data);
+    EXPECT_TRUE(kvs::familyOf(93, family));
+    EXPECT_TRUE(kvs::familyOf(153, family));
+    EXPECT_TRUE(kvs::familyOf(304, family));
+    for (std::uint16_t outside : {0, 40, 94, 99, 154, 200, 305, 482, 484, 1123, 1125, 9999, 65535})
+        EXPECT_FALSE(kvs::familyOf(outside, family)) << outside;
+}
+
+TEST(DispatchTable, IdsWithoutACaseHaveNoRow) {
+    for (std::uint16_t id : {41, 42, 44, 48, 66, 68, 79, 82, 86, 89, 91, 93, 100, 104, 105, 110, 112, 115, 117,
+                             122, 127, 130, 145, 148, 149, 151, 152, 201, 205, 214, 220, 225, 247, 249, 255, 259,
+                             263, 265, 293, 301, 304})
+        EXPECT_EQ(kvs::findDispatchRow(id), nullptr) << id;
+}
+
+TEST(DispatchTable, TelltaleRows) {
+    const DispatchRow* sort = kvs::findDispatchRow(72);
+    ASSERT_NE(sort, nullptr);
+    EXPECT_STREQ(sort->templateName, "Sort");
+    EXPECT_STREQ(sort->caption, "Sort");
+    EXPECT_EQ(sort->mode, 1);
+    EXPECT_EQ(sort->firstCapacity, 10);
+    EXPECT_EQ(sort->secondCapacity, 0);
+
+    const DispatchRow* hilo = kvs::findDispatchRow(107);
+    ASSERT_NE(hilo, nullptr);
+    EXPECT_EQ(hilo->launch, Launch::Standard);
+    EXPECT_EQ(hilo->firstSlot, 2);
+    EXPECT_EQ(hilo->lastSlot, 5);
+
+    const DispatchRow* correlations = kvs::findDispatchRow(204);
+    ASSERT_NE(correlations, nullptr);
+    EXPECT_EQ(correlations->family, Family::Statistics);
+    EXPECT_EQ(correlations->launch, Launch::Graph);
+
+    const DispatchRow* loglin = kvs::findDispatchRow(252);
+    ASSERT_NE(loglin, nullptr);
+    EXPECT_EQ(loglin->firstCapacity, 1);
+    EXPECT_EQ(loglin->secondCapacity, 256);
+
+    for (std::uint16_t special : {76, 78, 150, 153, 242, 245, 246}) {
+        const DispatchRow* row = kvs::findDispatchRow(special);
+        ASSERT_NE(row, nullptr) << special;
+        EXPECT_EQ(row->launch, Launch::Special) << special;
+    }
+    EXPECT_EQ(kvs::dispatchTable().size(), 123u);
+}
+
+TEST(Descriptors, NineDialogsStartWithAnUnsetResetMarker) {
+    kvs::resetDescriptorsForLoad();
+    std::set<std::uint16_t> unset;
+    for (const DispatchRow& row : kvs::dispatchTable())
+        if (const kvs::Descriptor* d = kvs::descriptorFor(row.id); d && d->resetMarker == -1) unset.insert(row.id);
+    EXPECT_EQ(unset, (std::set<std::uint16_t>{87, 88, 252, 269, 271, 272, 281, 290, 298}));
+}
+
+TEST(Descriptors, SelectionResetFillsTheUsedPartAndCanFree) {
+    kvs::resetDescriptorsForLoad();
+    kvs::Descriptor* d = kvs::descriptorFor(74);
+    ASSERT_NE(d, nullptr);
+    kvs::resetSelection(*d, true, 2);  // never allocated: nothing happens
+    EXPECT_EQ(d->defaultsMarker, 0);
+
+    d->allocated = 1;
+    d->firstCapacity = 3;
+    d->first.entries = {4, 5, 6, 0, 0, 0};
+    d->first.exists = true;
+    d->secondCapacity = 2;
+    d->second.entries = {7, 8};
+    d->second.exists = true;
+    d->resetMarker = 5;
+    kvs::resetSelection(*d, false, 2);
+    EXPECT_EQ(d->first.entries, (std::vector<std::int32_t>{-1, -1, -1, 0, 0, 0}));
+    EXPECT_EQ(d->second.entries, (std::vector<std::int32_t>{-1, -1}));
+    EXPECT_EQ(d->defaultsMarker, 1);
+    EXPECT_EQ(d->resetMarker, 0);
+    EXPECT_EQ(d->allocated, 1);
+
+    kvs::resetSelection(*d, true, 2);
+    EXPECT_EQ(d->allocated, 0);
+    EXPECT_FALSE(d->first.exists);
+    EXPECT_TRUE(d->second.entries.empty());
+    kvs::resetDescriptorsForLoad();
+}
+
+TEST(Descriptors, UsedCountStopsAtTheFirstEmptyEntryOrTheCapacity) {
+    kvs::SelectionArray array;
+    array.entries = {3, 1, -1, 9};
+    EXPECT_EQ(array.used(4), 2);
+    EXPECT_EQ(array.used(1), 1);
+    array.entries = {3, 1};
+    EXPECT_EQ(array.used(10), 2);
+}
+
+}  // namespace

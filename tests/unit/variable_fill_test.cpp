@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/seam.h"
+#include "core/variable_list.h"
+#include "headless/embedded_resources.h"
+#include "headless/headless_dialog.h"
+#include "standin/kernel_state.h"
+
+namespace {
+
+using kvs::headless::HeadlessDialog;
+using kvs::standin::KernelState;
+
+// Records message boxes and answers them at once.
+class RecordingUi : public kvs::UiServices {
+public:
+    int runModal(kvs::WindowRef, std::string_view, kvs::DialogHandler&) override { return -1; }
+    int messageBox(const kvs::MessageRequest& request) override {
+        messages.push_back(request.text);
+        return kvs::kIdOk;
+    }
+    std::optional<std::string> chooseFile(const kvs::FileRequest&) override { return std::nullopt; }
+    void help(const kvs::HelpRequest&) override {}
+    kvs::WindowRef focusWindow() override { return 0; }
+    std::string windowTitle(kvs::WindowRef, std::size_t) override { return {}; }
+    std::uintptr_t beginWait() override { return ++waits; }
+    void endWait(std::uintptr_t) override { --waits; }
+    void beep() override {}
+
+    std::vector<std::string> messages;
+    std::uintptr_t waits = 0;
+};
+
+class VariableFillTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        resources.load(kvs::headless::embeddedResources());
+        kvs::setUi(&ui);
+        KernelState::instance().reset();
+    }
+    void TearDown() override {
+        kvs::setUi(nullptr);
+        KernelState::instance().reset();
+    }
+    std::vector<std::string> items(const HeadlessDialog& dialog, int id) {
+        std::vector<std::string> out;
+        for (int i = 0; i < dialog.listCount(id); ++i) out.push_back(dialog.listText(id, i));
+        return out;
+    }
+    kvs::headless::ResourceSet resources;
+    RecordingUi ui;
+    kvs::VariableCatalogue catalogue;
+};
+
+TEST_F(VariableFillTest, AFullListStopsWithTheCountAddedSoFar) {
+    KernelState::instance().setVariables({"A", "B", "C", "D"});
+    HeadlessDialog dialog(*resources.dialog("Sort"));
+    dialog.setListCapacity(2);
+    kvs::fillVariableList(dialog, 4, kvs::ListInsert::Append, 4, false, 72, catalogue);
+    EXPECT_EQ(items(dialog, 4), (std::vector<std::string>{"A", "B"}));
+    ASSERT_EQ(ui.messages.size(), 1u);
+    EXPECT_EQ(ui.messages[0], "Too many variables to list! Only the first\r2 names will be used.");
+    EXPECT_EQ(ui.waits, 0u) << "the wait cursor is given back";
+    EXPECT_EQ(catalogue.indexOf("B"), 1);
+    EXPECT_EQ(catalogue.indexOf("C"), -1);
+}
+
+TEST_F(VariableFillTest, NumericOnlyDialogsSkipStringVariablesButKeepTheirIndices) {
+    KernelState::instance().setVariables({"AGE", "NAME$", "INCOME"});
+    HeadlessDialog dialog(*resources.dialog("Rank"));
+    kvs::fillVariableList(dialog, 4, kvs::ListInsert::Append, 3, true, 71, catalogue);
+    EXPECT_EQ(items(dialog, 4), (std::vector<std::string>{"AGE", "INCOME"}));
+    EXPECT_EQ(catalogue.indexOf("INCOME"), 2) << "indices stay file positions";
+    EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(VariableFillTest, TheSelectDialogListsCaseFirst) {
+    KernelState::instance().setVariables({"B", "A"});
+    HeadlessDialog dialog(*resources.dialog("Sort"));
+    kvs::fillVariableList(dialog, 4, kvs::ListInsert::Sorted, 2, false, 46, catalogue);
+    EXPECT_EQ(items(dialog, 4), (std::vector<std::string>{"A", "B", "Case"}))
+        << "sorted with the rest when the sort preference is on";
+    dialog.listClear(4);
+    kvs::fillVariableList(dialog, 4, kvs::ListInsert::Append, 2, false, 46, catalogue);
+    EXPECT_EQ(items(dialog, 4), (std::vector<std::string>{"Case", "B", "A"}));
+}
+
+TEST_F(VariableFillTest, TargetListsRoundTripThroughSelectionArrays) {
+    KernelState::instance().setVariables({"X", "Y", "Z"});
+    HeadlessDialog dialog(*resources.dialog("Sort"));
+    kvs::fillVariableList(dialog, 4, kvs::ListInsert::Sorted, 3, false, 72, catalogue);
+    dialog.listAdd(10, "Z", kvs::ListInsert::Append);
+    dialog.listAdd(10, "NOSUCH", kvs::ListInsert::Append);
+    dialog.listAdd(10, "X", kvs::ListInsert::Append);
+    std::vector<std::int32_t> entries(6, 0);
+    kvs::storeSelection(dialog, 10, 3, catalogue, entries);
+    EXPECT_EQ(entries, (std::vector<std::int32_t>{2, 0, -1, 0, 0, 0})) << "unknown names are passed over";
+
+    dialog.listClear(10);
+    kvs::restoreSelection(dialog, entries, 3, 10, catalogue);
+    EXPECT_EQ(items(dialog, 10), (std::vector<std::string>{"Z", "X"}));
+}
+
+}  // namespace

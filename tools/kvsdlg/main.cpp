@@ -1,0 +1,110 @@
+// kvsdlg: runs scenario files against the dialog library and prints their
+// transcripts.
+//
+//   kvsdlg run [--backend=headless] FILE.scn...
+//   kvsdlg check FILE.scn...    compares each transcript with FILE.out
+//   kvsdlg update FILE.scn...   writes each transcript to FILE.out
+#include <fstream>
+#include <iostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "headless/embedded_resources.h"
+#include "headless/headless_backend.h"
+
+namespace {
+
+int usage() {
+    std::cerr << "usage: kvsdlg run|check|update [--backend=headless] FILE.scn...\n";
+    return 2;
+}
+
+bool readFile(const std::string& path, std::string& text) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return false;
+    std::ostringstream buffer;
+    buffer << in.rdbuf();
+    text = buffer.str();
+    return true;
+}
+
+std::string expectedPath(const std::string& scenario) {
+    const std::size_t dot = scenario.rfind(".scn");
+    return (dot == std::string::npos ? scenario : scenario.substr(0, dot)) + ".out";
+}
+
+// The first line where two transcripts part, for the failure report.
+std::string firstDifference(const std::string& expected, const std::string& actual) {
+    std::istringstream a(expected), b(actual);
+    std::string left, right;
+    for (int line = 1;; ++line) {
+        const bool moreA = static_cast<bool>(std::getline(a, left));
+        const bool moreB = static_cast<bool>(std::getline(b, right));
+        if (!moreA && !moreB) return "transcripts differ only in line ends";
+        if (!moreA || !moreB || left != right)
+            return "line " + std::to_string(line) + ":\n  expected: " + (moreA ? left : "(end)") +
+                   "\n  actual:   " + (moreB ? right : "(end)");
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 3) return usage();
+    const std::string command = argv[1];
+    if (command != "run" && command != "check" && command != "update") return usage();
+    std::vector<std::string> files;
+    for (int i = 2; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument.rfind("--backend=", 0) == 0) {
+            if (argument != "--backend=headless") {
+                std::cerr << "kvsdlg: this build runs only the headless backend\n";
+                return 2;
+            }
+            continue;
+        }
+        files.push_back(argument);
+    }
+
+    kvs::headless::ResourceSet resources;
+    try {
+        resources.load(kvs::headless::embeddedResources());
+    } catch (const std::exception& error) {
+        std::cerr << "kvsdlg: " << error.what() << '\n';
+        return 2;
+    }
+    kvs::headless::HeadlessRunner runner(resources);
+
+    int passed = 0, failed = 0;
+    for (const std::string& file : files) {
+        std::string source;
+        if (!readFile(file, source)) {
+            std::cerr << "kvsdlg: cannot read " << file << '\n';
+            ++failed;
+            continue;
+        }
+        const std::string transcript = runner.run(source);
+        if (command == "run") {
+            std::cout << transcript;
+            continue;
+        }
+        const std::string outPath = expectedPath(file);
+        if (command == "update") {
+            std::ofstream(outPath, std::ios::binary) << transcript;
+            continue;
+        }
+        std::string expected;
+        if (!readFile(outPath, expected)) {
+            std::cout << "FAIL " << file << ": no " << outPath << '\n';
+            ++failed;
+        } else if (expected != transcript) {
+            std::cout << "FAIL " << file << ": " << firstDifference(expected, transcript) << '\n';
+            ++failed;
+        } else {
+            ++passed;
+        }
+    }
+    if (command == "check") std::cout << "scenarios: " << passed << " passed, " << failed << " failed\n";
+    return failed == 0 ? 0 : 1;
+}

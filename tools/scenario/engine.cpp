@@ -1,0 +1,290 @@
+#include "tools/scenario/engine.h"
+
+#include "resources/list_transfer.h"
+#include "tools/scenario/transcript.h"
+
+namespace kvs::scenario {
+
+namespace {
+
+constexpr int kOk = 1, kCancel = 2, kContinue = 1001, kYes = 6, kNo = 7;
+
+const ListTransferRow* rowForTarget(int targetId) {
+    for (const ListTransferRow& row : kListTransfers)
+        if (row.targetList == targetId) return &row;
+    return nullptr;
+}
+
+// Indices of the names in a list, or nothing when one is missing.
+std::optional<std::vector<int>> indicesOf(const std::optional<ControlInfo>& list,
+                                          const std::vector<std::string>& names) {
+    if (!list || list->kind != ControlKind::ListBox) return std::nullopt;
+    std::vector<int> indices;
+    for (const std::string& name : names) {
+        bool found = false;
+        for (std::size_t i = 0; i < list->items.size() && !found; ++i) {
+            if (list->items[i] == name) {
+                indices.push_back(static_cast<int>(i));
+                found = true;
+            }
+        }
+        if (!found) return std::nullopt;
+    }
+    return indices;
+}
+
+}  // namespace
+
+std::string describeControl(int id, const ControlInfo& control) {
+    const std::string number = std::to_string(id);
+    std::string line;
+    switch (control.kind) {
+    case ControlKind::ListBox:
+        line = "list " + number;
+        for (const std::string& item : control.items) line += " " + quote(item);
+        break;
+    case ControlKind::ComboBox:
+        line = "combo " + number + " " + quote(control.text);
+        break;
+    case ControlKind::Button:
+        line = "button " + number;
+        if (control.checkable) line += control.checked ? " checked" : " unchecked";
+        break;
+    default: line = "text " + number + " " + quote(control.text); break;
+    }
+    if (!control.enabled) line += " disabled";
+    return line;
+}
+
+Engine::Engine(Backend& backend, Emit emit) : backend_(backend), emit_(std::move(emit)) {}
+
+void Engine::load(std::string_view source) {
+    ParseResult parsed = parse(source);
+    for (const std::string& error : parsed.errors) emit_("error " + quote(error));
+    statements_ = std::move(parsed.statements);
+    next_ = 0;
+    helpFile_ = kDefaultHelpFile;
+}
+
+void Engine::fail(const Statement& statement, const std::string& message) {
+    emit_("error " + quote("line " + std::to_string(statement.line) + ": " + message));
+}
+
+std::string Engine::describeTop() {
+    switch (backend_.topKind()) {
+    case WindowKind::Dialog: return "dialog " + quote(backend_.topText());
+    case WindowKind::Message: return "message box " + quote(backend_.topText());
+    case WindowKind::Chooser: return "file chooser " + quote(backend_.topText());
+    case WindowKind::None: break;
+    }
+    return "nothing";
+}
+
+void Engine::windowLeftOpen() {
+    emit_("error " + quote("the scenario ends with the " + describeTop() + " open"));
+    backend_.dismissTop();
+}
+
+bool Engine::step() {
+    if (done()) return false;
+    // Advance first: a statement may open a modal window inside which the
+    // next statements run.
+    const Statement& statement = statements_[next_++];
+    if (setup(statement)) return true;
+    switch (backend_.topKind()) {
+    case WindowKind::Dialog: actOnDialog(statement); break;
+    case WindowKind::Message: actOnMessage(statement); break;
+    case WindowKind::Chooser: actOnChooser(statement); break;
+    case WindowKind::None: fail(statement, "no window is open for '" + statement.keyword + "'"); break;
+    }
+    return true;
+}
+
+bool Engine::setup(const Statement& s) {
+    const std::string& k = s.keyword;
+    auto number = [&](std::size_t i) { return s.args.size() > i ? toNumber(s.args[i].text) : std::nullopt; };
+    if (k == "vars") {
+        backend_.setVariables(s.texts());
+    } else if (k == "manyvars") {
+        const auto count = number(1);
+        if (s.args.size() != 2 || !count || *count < 0) {
+            fail(s, "manyvars takes a prefix and a count");
+            return true;
+        }
+        std::vector<std::string> names;
+        names.reserve(static_cast<std::size_t>(*count));
+        for (long i = 1; i <= *count; ++i) names.push_back(s.args[0].text + std::to_string(i));
+        backend_.setVariables(names);
+    } else if (k == "file" && !s.args.empty() && s.args[0].quoted &&
+               (s.args.size() > 1 || backend_.topKind() != WindowKind::Chooser)) {
+        backend_.setFile(s.args[0].text, s.texts(1));
+    } else if (k == "active") {
+        backend_.setActiveModules(s.texts());
+    } else if (k == "matrix") {
+        backend_.setMatrix(!s.args.empty() && s.args[0].text == "yes");
+    } else if (k == "sorted") {
+        backend_.setSortList(!s.args.empty() && s.args[0].text == "yes" ? 1 : 0);
+    } else if (k == "title") {
+        backend_.setOwnerTitle(s.args.empty() ? "" : s.args[0].text);
+    } else if (k == "helpfile") {
+        helpFile_ = s.args.empty() ? "" : s.args[0].text;
+    } else if (k == "failalloc") {
+        const auto nth = number(0);
+        backend_.failAllocation(nth ? static_cast<int>(*nth) : 0);
+    } else if (k == "allocations") {
+        emit_("allocations live " + std::to_string(backend_.liveAllocations()));
+    } else if (k == "start") {
+        const auto id = number(0);
+        if (!id) {
+            fail(s, "start takes a command id");
+            return true;
+        }
+        const std::int32_t result = backend_.startDialog(static_cast<std::uint32_t>(*id), helpFile_);
+        emit_("StartDialog " + std::to_string(*id) + " = " + std::to_string(result));
+    } else if (k == "reinit") {
+        const auto value = number(0);
+        backend_.reinitDialogs(value ? static_cast<std::int32_t>(*value) : 1);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+int Engine::controlId(const Token& token) {
+    if (!token.quoted) {
+        const auto id = toNumber(token.text);
+        return id && backend_.control(static_cast<int>(*id)) ? static_cast<int>(*id) : 0;
+    }
+    return backend_.controlByLabel(token.text).value_or(0);
+}
+
+void Engine::actOnDialog(const Statement& s) {
+    const std::string& k = s.keyword;
+    auto needControl = [&](std::size_t argument) -> int {
+        if (s.args.size() <= argument) {
+            fail(s, "'" + k + "' needs a control");
+            return 0;
+        }
+        const int id = controlId(s.args[argument]);
+        if (!id) fail(s, "no control " + quote(s.args[argument].text) + " in " + quote(backend_.topText()));
+        return id;
+    };
+    auto clickEnabled = [&](int id) {
+        const auto control = backend_.control(id);
+        if (!control) {
+            fail(s, "no control " + std::to_string(id) + " in " + quote(backend_.topText()));
+        } else if (!control->enabled) {
+            fail(s, "control " + std::to_string(id) + " is disabled");
+        } else {
+            backend_.click(id);
+        }
+    };
+
+    if (k == "ok" || k == "cancel" || k == "continue") {
+        clickEnabled(k == "ok" ? kOk : k == "cancel" ? kCancel : kContinue);
+    } else if (k == "click") {
+        if (const int id = needControl(0)) clickEnabled(id);
+    } else if (k == "check" || k == "uncheck") {
+        const int id = needControl(0);
+        if (!id) return;
+        const auto control = backend_.control(id);
+        if (!control->checkable) fail(s, "control " + std::to_string(id) + " cannot be checked");
+        else if (control->checked != (k == "check")) clickEnabled(id);
+    } else if (k == "select") {
+        const int id = needControl(0);
+        if (!id) return;
+        const auto indices = indicesOf(backend_.control(id), s.texts(1));
+        if (!indices) fail(s, "list " + std::to_string(id) + " lacks a name");
+        else backend_.selectItems(id, *indices);
+    } else if (k == "add" || k == "remove") {
+        const int target = needControl(0);
+        if (!target) return;
+        const ListTransferRow* row = rowForTarget(target);
+        if (!row) {
+            fail(s, "control " + std::to_string(target) + " is not a target list");
+            return;
+        }
+        const auto names = s.texts(1);
+        int list = 0;
+        std::optional<std::vector<int>> indices;
+        if (k == "add") {
+            for (int source : row->sources) {
+                indices = indicesOf(backend_.control(source), names);
+                if (indices) {
+                    list = source;
+                    break;
+                }
+            }
+        } else {
+            indices = indicesOf(backend_.control(target), names);
+            list = target;
+        }
+        if (!indices) {
+            fail(s, "no list holds every name");
+            return;
+        }
+        backend_.selectItems(list, *indices);
+        clickEnabled(k == "add" ? row->addButton : row->removeButton);
+    } else if (k == "dblclick") {
+        const int id = needControl(0);
+        if (!id) return;
+        const auto indices = s.args.size() == 2 ? indicesOf(backend_.control(id), {s.args[1].text}) : std::nullopt;
+        if (!indices) fail(s, "dblclick needs a name of the list");
+        else backend_.doubleClick(id, indices->front());
+    } else if (k == "type") {
+        const int id = needControl(0);
+        if (!id) return;
+        if (s.args.size() != 2) fail(s, "type needs a control and a text");
+        else backend_.typeText(id, s.args[1].text);
+    } else if (k == "choose") {
+        const int id = needControl(0);
+        if (!id) return;
+        const auto control = backend_.control(id);
+        int entry = -1;
+        if (s.args.size() == 2 && !s.args[1].quoted) {
+            const auto index = toNumber(s.args[1].text);
+            if (index && *index >= 0 && static_cast<std::size_t>(*index) < control->items.size())
+                entry = static_cast<int>(*index);
+        } else if (s.args.size() == 2) {
+            for (std::size_t i = 0; i < control->items.size() && entry < 0; ++i)
+                if (control->items[i] == s.args[1].text) entry = static_cast<int>(i);
+        }
+        if (entry < 0) fail(s, "no such entry in control " + std::to_string(id));
+        else backend_.chooseEntry(id, entry);
+    } else if (k == "show") {
+        if (const int id = needControl(0)) emit_(describeControl(id, *backend_.control(id)));
+    } else if (k == "syscommand") {
+        const auto code = s.args.empty() ? std::nullopt : toNumber(s.args[0].text);
+        if (!code) fail(s, "syscommand takes a number");
+        else backend_.sysCommand(static_cast<int>(*code));
+    } else {
+        fail(s, "'" + k + "' does not act on a dialog");
+    }
+}
+
+void Engine::actOnMessage(const Statement& s) {
+    if (s.keyword != "reply" || s.args.size() != 1) {
+        fail(s, "a message box is up: answer it with reply");
+        return;
+    }
+    const std::string& answer = s.args[0].text;
+    const Buttons buttons = backend_.messageButtons();
+    int id = 0;
+    if (answer == "ok" && buttons != Buttons::YesNo) id = kOk;
+    else if (answer == "cancel" && buttons == Buttons::OkCancel) id = kCancel;
+    else if (answer == "yes" && buttons == Buttons::YesNo) id = kYes;
+    else if (answer == "no" && buttons == Buttons::YesNo) id = kNo;
+    if (!id) fail(s, "the message box has no button " + quote(answer));
+    else backend_.answerMessage(id);
+}
+
+void Engine::actOnChooser(const Statement& s) {
+    if (s.keyword != "file" || s.args.size() != 1 || (!s.args[0].quoted && s.args[0].text != "cancel")) {
+        fail(s, "a file chooser is up: answer it with file \"PATH\" or file cancel");
+        return;
+    }
+    if (s.args[0].quoted) backend_.answerChooser(s.args[0].text);
+    else backend_.answerChooser(std::nullopt);
+}
+
+}  // namespace kvs::scenario

@@ -1,0 +1,112 @@
+// The scenario engine: what every statement means, independent of the
+// backend that carries it out. The headless runner and the driver inside the
+// stand-in host under Wine both run this engine over their own Backend, so
+// the two transcripts can only differ where the windows behave differently.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tools/scenario/scenario.h"
+
+namespace kvs::scenario {
+
+enum class WindowKind { None, Dialog, Message, Chooser };
+enum class ControlKind { Static, Button, Edit, ListBox, ComboBox, Other };
+enum class Buttons { Ok, OkCancel, YesNo };
+
+// What a user sees of one control.
+struct ControlInfo {
+    ControlKind kind = ControlKind::Other;
+    bool enabled = true;
+    bool checkable = false;   // check box or radio button
+    bool checked = false;
+    std::string text;         // window text; a combo box's edit text
+    std::vector<std::string> items;  // list and combo box entries
+    int comboSelection = -1;
+};
+
+// The host, the kernel and the topmost library window, as one backend
+// offers them.
+class Backend {
+public:
+    virtual ~Backend() = default;
+
+    // Stand-in host and kernel.
+    virtual void setVariables(const std::vector<std::string>& names) = 0;
+    virtual void setFile(const std::string& path, const std::vector<std::string>& names) = 0;
+    virtual void setActiveModules(const std::vector<std::string>& modules) = 0;
+    virtual void setMatrix(bool matrix) = 0;
+    virtual void setOwnerTitle(const std::string& title) = 0;
+    virtual void failAllocation(int nth) = 0;
+    virtual long liveAllocations() = 0;
+
+    // Calls into the library.
+    virtual std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) = 0;
+    virtual void reinitDialogs(std::int32_t value) = 0;
+    virtual void setSortList(std::int32_t value) = 0;
+
+    // The topmost library window.
+    virtual WindowKind topKind() = 0;
+    // A dialog's caption, a message box's text, a chooser's title.
+    virtual std::string topText() = 0;
+    virtual std::optional<int> controlByLabel(std::string_view label) = 0;
+    virtual std::optional<ControlInfo> control(int id) = 0;
+    // Selects exactly these items and notifies a selection change.
+    virtual void selectItems(int listId, const std::vector<int>& indices) = 0;
+    // A click as BM_CLICK gives it, with its notification.
+    virtual void click(int id) = 0;
+    // Selects only this item, then notifies the selection change and the double-click.
+    virtual void doubleClick(int listId, int index) = 0;
+    virtual void typeText(int id, const std::string& text) = 0;
+    virtual void chooseEntry(int id, int index) = 0;
+    virtual void sysCommand(int code) = 0;
+    virtual Buttons messageButtons() = 0;
+    virtual void answerMessage(int buttonId) = 0;
+    // A path, or nothing to cancel.
+    virtual void answerChooser(const std::optional<std::string>& path) = 0;
+    // Closes the topmost window as a user giving up would.
+    virtual void dismissTop() = 0;
+};
+
+class Engine {
+public:
+    using Emit = std::function<void(const std::string&)>;
+
+    Engine(Backend& backend, Emit emit);
+
+    // Takes a scenario; parse errors are reported at once.
+    void load(std::string_view source);
+    // Runs the next statement; false when none is left.
+    bool step();
+    bool done() const { return next_ >= statements_.size(); }
+    // The scenario has ended with a window open: reports it and closes it.
+    void windowLeftOpen();
+
+    static constexpr const char* kDefaultTitle = "KORVAN";
+    static constexpr const char* kDefaultHelpFile = "C:\\KORVAN\\KORVAN.HLP";
+
+private:
+    bool setup(const Statement& statement);
+    void actOnDialog(const Statement& statement);
+    void actOnMessage(const Statement& statement);
+    void actOnChooser(const Statement& statement);
+    int controlId(const Token& token);
+    void fail(const Statement& statement, const std::string& message);
+    std::string describeTop();
+
+    Backend& backend_;
+    Emit emit_;
+    std::vector<Statement> statements_;
+    std::size_t next_ = 0;
+    std::string helpFile_ = kDefaultHelpFile;
+};
+
+// The `show` line of a control.
+std::string describeControl(int id, const ControlInfo& control);
+
+}  // namespace kvs::scenario

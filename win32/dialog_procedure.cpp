@@ -1,0 +1,96 @@
+#include "win32/dialog_procedure.h"
+
+#include "resources/common_ids.h"
+#include "win32/owner_drawn_button.h"
+
+namespace kvs::win32 {
+
+namespace {
+
+HWND activeDialog = nullptr;
+
+struct HelpMenuItem {
+    UINT id;
+    const char* label;
+};
+
+constexpr HelpMenuItem kHelpMenu[] = {
+    {IDM_HELP_CONTENTS, "Help Contents"},
+    {IDM_HELP_SEARCH, "Search for Help On..."},
+    {IDM_HELP_ON_HELP, "How to Use Help"},
+    {IDM_HELP_CONTEXT, "Help on this Dialog"},
+};
+
+// The help requests answer to the system menu, so a user can reach them.
+void appendHelpMenu(HWND dialog) {
+    HMENU menu = GetSystemMenu(dialog, FALSE);
+    if (!menu) return;
+    AppendMenuA(menu, MF_SEPARATOR, 0, nullptr);
+    for (const HelpMenuItem& item : kHelpMenu) AppendMenuA(menu, MF_STRING, item.id, item.label);
+}
+
+DialogSession* sessionOf(HWND dialog) {
+    return reinterpret_cast<DialogSession*>(GetWindowLongPtrA(dialog, DWLP_USER));
+}
+
+INT_PTR initialise(HWND dialog, DialogSession& session) {
+    SetWindowLongPtrA(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(&session));
+    session.previousActive = activeDialog;
+    activeDialog = dialog;
+    session.view.emplace(dialog);
+    appendHelpMenu(dialog);
+    const int focus = session.handler->onInit(*session.view);
+    // FALSE tells the dialog manager the focus is set already.
+    return focus != 0 ? FALSE : TRUE;
+}
+
+bool isHelpRequest(WPARAM code) { return code >= IDM_HELP_CONTENTS && code <= IDM_HELP_CONTEXT; }
+
+INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_INITDIALOG) {
+        auto* session = reinterpret_cast<DialogSession*>(lParam);
+        return session && session->handler ? initialise(dialog, *session) : TRUE;
+    }
+    DialogSession* session = sessionOf(dialog);
+    if (!session || !session->view) return FALSE;
+    DialogView& view = *session->view;
+    switch (message) {
+    case WM_COMMAND:
+        if (lParam != 0 && viewIsChangingControls()) return TRUE;
+        session->handler->onCommand(view, LOWORD(wParam), HIWORD(wParam));
+        return TRUE;
+    case WM_SYSCOMMAND:
+        // Windows keeps the low four bits of its own SC_ codes; the
+        // library's help commands are compared whole.
+        if (!isHelpRequest(wParam)) return FALSE;
+        session->handler->onSysCommand(view, static_cast<int>(wParam));
+        return TRUE;
+    case WM_CLOSE:
+        session->handler->onCommand(view, IDCANCEL, BN_CLICKED);
+        return TRUE;
+    case WM_DRAWITEM:
+        return lParam && drawOwnerDrawnButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
+    case WM_DESTROY:
+        activeDialog = session->previousActive;
+        return FALSE;
+    default:
+        return FALSE;
+    }
+}
+
+}  // namespace
+
+HWND activeLibraryDialog() { return activeDialog; }
+
+// No exception may cross into the window manager: a failing handler ends
+// its dialog as cancelled.
+INT_PTR CALLBACK libraryDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+        return dispatch(dialog, message, wParam, lParam);
+    } catch (...) {
+        EndDialog(dialog, IDCANCEL);
+        return TRUE;
+    }
+}
+
+}  // namespace kvs::win32

@@ -1,0 +1,46 @@
+// Load and unload notifications of kvs_dlg.dll.
+#include <windows.h>
+
+#include "core/lifecycle.h"
+#include "core/seam.h"
+#include "win32/graph_resources.h"
+#include "win32/microscroll.h"
+#include "win32/module_instance.h"
+#include "win32/win32_ui.h"
+
+namespace {
+
+void attach(HINSTANCE instance) {
+    kvs::win32::registerMicroscroll(instance);
+    kvs::win32::setModuleInstance(instance);
+    kvs::win32::createGraphPalette();
+    kvs::win32::allocatePatternBlock();
+    // Registering again fails because the class exists; that is expected.
+    kvs::win32::registerMicroscroll(instance);
+    kvs::setUi(&kvs::win32::win32Ui());
+    kvs::onLibraryLoad();
+}
+
+// processEnding: the process exits rather than FreeLibrary unloading us.
+void detach(bool processEnding) {
+    kvs::win32::deleteGraphPalette();
+    // A class of a DLL outlives the DLL; after a FreeLibrary its window
+    // procedure would point into unmapped code when the library is loaded
+    // again elsewhere.
+    if (!processEnding) kvs::win32::unregisterMicroscroll(kvs::win32::moduleInstance());
+}
+
+}  // namespace
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID reserved) {
+    try {
+        switch (reason) {
+        case DLL_PROCESS_ATTACH: attach(instance); break;
+        case DLL_PROCESS_DETACH: detach(reserved != nullptr); break;
+        default: break;
+        }
+    } catch (...) {
+        // The load never fails: what could not be prepared is simply absent.
+    }
+    return TRUE;
+}

@@ -1,0 +1,12 @@
+// The face of an owner-drawn push button: a plain 3D button with its text,
+// pushed in while pressed, greyed when disabled, with a focus rectangle.
+#pragma once
+
+#include <windows.h>
+
+namespace kvs::win32 {
+
+// Draws the item of a WM_DRAWITEM; false when it is not a button.
+bool drawOwnerDrawnButton(const DRAWITEMSTRUCT& item);
+
+}  // namespace kvs::win32

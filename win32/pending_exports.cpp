@@ -1,0 +1,40 @@
+// Exports whose dialogs are not built yet. Each does nothing and answers 0,
+// so a host that calls one sees "cancelled" or "nothing done".
+#include <windows.h>
+
+#include "include/kvs_dlg.h"
+
+extern "C" {
+
+void KVS_CALL StartSamplingDialog(int32_t, int32_t) {}
+
+int32_t KVS_CALL UpdateSamplingDialog(int32_t, int32_t) { return 0; }
+
+void KVS_CALL ClearSamplingDialog(void) {}
+
+// Not handled: the dialog manager does its default processing.
+intptr_t KVS_CALL ProcessDlgProc(KvsWindow, uint32_t, uintptr_t, intptr_t) { return FALSE; }
+
+int32_t KVS_CALL DoSaveDataOptionsDlg(KvsWindow) { return 0; }
+
+int32_t KVS_CALL DoImpExpOptionsDlg(KvsWindow, int32_t, int32_t) { return 0; }
+
+// The command line is left as it is.
+int32_t KVS_CALL AttachSaveAsOptions(char*) { return 0; }
+
+int32_t KVS_CALL AttachImpExpOptions(char*) { return 0; }
+
+int32_t KVS_CALL TRAXCallDialog(uint32_t, int32_t, const char*, int32_t, int32_t) { return 0; }
+
+// As a cancelled picker: the colour is left as it is.
+int32_t KVS_CALL ColorPickerDialogEx(KvsWindow, double*) { return 0; }
+
+// No bitmaps: an empty table and a count of 0.
+int32_t KVS_CALL LoadSymbolBitmapsEx(void** table) {
+    if (table) *table = nullptr;
+    return 0;
+}
+
+void KVS_CALL DeleteSymbolBitmapsEx(void) {}
+
+}  // extern "C"

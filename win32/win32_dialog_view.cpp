@@ -1,0 +1,299 @@
+#include "win32/win32_dialog_view.h"
+
+#include <algorithm>
+#include <string>
+
+namespace kvs::win32 {
+
+namespace {
+
+int changingDepth = 0;
+
+class ChangingControls {
+public:
+    ChangingControls() { ++changingDepth; }
+    ~ChangingControls() { --changingDepth; }
+    ChangingControls(const ChangingControls&) = delete;
+    ChangingControls& operator=(const ChangingControls&) = delete;
+};
+
+enum class Kind { Other, Button, ListBox, ComboBox };
+
+char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+bool sameName(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+               return lower(x) == lower(y);
+           });
+}
+
+Kind kindOf(HWND control) {
+    char name[32] = {};
+    const int length = GetClassNameA(control, name, static_cast<int>(sizeof name));
+    const std::string_view cls(name, static_cast<std::size_t>(std::max(length, 0)));
+    if (sameName(cls, "Button")) return Kind::Button;
+    if (sameName(cls, "ListBox")) return Kind::ListBox;
+    if (sameName(cls, "ComboBox")) return Kind::ComboBox;
+    return Kind::Other;
+}
+
+HWND find(HWND dialog, int id, Kind kind) {
+    HWND control = GetDlgItem(dialog, id);
+    return control && kindOf(control) == kind ? control : nullptr;
+}
+
+LRESULT send(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    return SendMessageA(control, message, wParam, lParam);
+}
+
+LONG_PTR styleOf(HWND control) { return GetWindowLongPtrA(control, GWL_STYLE); }
+
+bool multiSelect(HWND list) { return (styleOf(list) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0; }
+
+bool dropList(HWND combo) { return (styleOf(combo) & 0x3) == CBS_DROPDOWNLIST; }
+
+bool canCheck(HWND button) {
+    switch (styleOf(button) & BS_TYPEMASK) {
+    case BS_CHECKBOX:
+    case BS_AUTOCHECKBOX:
+    case BS_RADIOBUTTON:
+    case BS_3STATE:
+    case BS_AUTO3STATE:
+    case BS_AUTORADIOBUTTON: return true;
+    default: return false;
+    }
+}
+
+bool validIndex(HWND list, UINT countMessage, int index) {
+    const LRESULT count = send(list, countMessage);
+    return index >= 0 && count > 0 && index < count;
+}
+
+// A Win32 control keeps a C string: the text ends at its first NUL.
+std::string cString(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
+
+LPARAM textArgument(const std::string& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
+
+std::string windowText(HWND window) {
+    const int length = GetWindowTextLengthA(window);
+    if (length <= 0) return {};
+    std::string buffer(static_cast<std::size_t>(length) + 1, '\0');
+    const int copied = GetWindowTextA(window, buffer.data(), length + 1);
+    buffer.resize(static_cast<std::size_t>(std::clamp(copied, 0, length)));
+    return buffer;
+}
+
+}  // namespace
+
+bool viewIsChangingControls() { return changingDepth > 0; }
+
+bool Win32DialogView::has(int id) const { return GetDlgItem(dialog_, id) != nullptr; }
+
+// ---------------------------------------------------------------------------
+// Text, state and focus
+
+// A drop-down list combo box answers with its selected item.
+std::string Win32DialogView::text(int id) const {
+    HWND control = GetDlgItem(dialog_, id);
+    return control ? windowText(control) : std::string();
+}
+
+// A drop-down list has no edit field: setting its text changes nothing.
+void Win32DialogView::setText(int id, std::string_view text) {
+    HWND control = GetDlgItem(dialog_, id);
+    if (!control || (kindOf(control) == Kind::ComboBox && dropList(control))) return;
+    ChangingControls changing;
+    SetWindowTextA(control, cString(text).c_str());
+}
+
+bool Win32DialogView::isEnabled(int id) const {
+    HWND control = GetDlgItem(dialog_, id);
+    return control && IsWindowEnabled(control);
+}
+
+void Win32DialogView::enable(int id, bool on) {
+    HWND control = GetDlgItem(dialog_, id);
+    if (!control) return;
+    ChangingControls changing;
+    EnableWindow(control, on ? TRUE : FALSE);
+}
+
+bool Win32DialogView::isChecked(int id) const {
+    HWND button = find(dialog_, id, Kind::Button);
+    return button && canCheck(button) && send(button, BM_GETCHECK) == BST_CHECKED;
+}
+
+void Win32DialogView::setChecked(int id, bool on) {
+    HWND button = find(dialog_, id, Kind::Button);
+    if (!button || !canCheck(button)) return;
+    ChangingControls changing;
+    send(button, BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED);
+}
+
+// A disabled control does not take the focus.
+void Win32DialogView::setFocus(int id) {
+    HWND control = GetDlgItem(dialog_, id);
+    if (!control || !IsWindowEnabled(control)) return;
+    ChangingControls changing;
+    SetFocus(control);
+}
+
+// ---------------------------------------------------------------------------
+// List boxes
+
+int Win32DialogView::listCount(int id) const {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list) return 0;
+    const LRESULT count = send(list, LB_GETCOUNT);
+    return count > 0 ? static_cast<int>(count) : 0;
+}
+
+std::string Win32DialogView::listText(int id, int index) const {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list || index < 0) return {};
+    const LRESULT length = send(list, LB_GETTEXTLEN, static_cast<WPARAM>(index));
+    if (length <= 0) return {};
+    std::string buffer(static_cast<std::size_t>(length) + 1, '\0');
+    const LRESULT copied =
+        send(list, LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
+    buffer.resize(static_cast<std::size_t>(std::clamp<LRESULT>(copied, 0, length)));
+    return buffer;
+}
+
+// LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
+int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list) return kListError;
+    const std::string item = cString(text);
+    ChangingControls changing;
+    const LRESULT result = how == ListInsert::Sorted
+                               ? send(list, LB_ADDSTRING, 0, textArgument(item))
+                               : send(list, LB_INSERTSTRING, static_cast<WPARAM>(-1), textArgument(item));
+    if (result == LB_ERRSPACE) return kListNoSpace;
+    if (result < 0) return kListError;
+    return static_cast<int>(result);
+}
+
+void Win32DialogView::listDelete(int id, int index) {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list || !validIndex(list, LB_GETCOUNT, index)) return;
+    ChangingControls changing;
+    send(list, LB_DELETESTRING, static_cast<WPARAM>(index));
+}
+
+void Win32DialogView::listClear(int id) {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list) return;
+    ChangingControls changing;
+    send(list, LB_RESETCONTENT);
+}
+
+// LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
+std::vector<int> Win32DialogView::listSelection(int id) const {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list) return {};
+    if (!multiSelect(list)) {
+        const LRESULT current = send(list, LB_GETCURSEL);
+        if (current < 0) return {};
+        return {static_cast<int>(current)};
+    }
+    const LRESULT count = send(list, LB_GETSELCOUNT);
+    if (count <= 0) return {};
+    std::vector<int> selected(static_cast<std::size_t>(count));
+    const LRESULT got =
+        send(list, LB_GETSELITEMS, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(selected.data()));
+    selected.resize(static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, count)));
+    return selected;
+}
+
+// Multi-select: LB_SETSEL, where index -1 means every item. Single-select:
+// selecting makes the item the only selection; deselecting the selected
+// item (or -1) leaves none.
+void Win32DialogView::listSelect(int id, int index, bool on) {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list) return;
+    ChangingControls changing;
+    if (multiSelect(list)) {
+        if (index == -1 || validIndex(list, LB_GETCOUNT, index))
+            send(list, LB_SETSEL, on ? TRUE : FALSE, static_cast<LPARAM>(index));
+    } else if (on) {
+        if (validIndex(list, LB_GETCOUNT, index)) send(list, LB_SETCURSEL, static_cast<WPARAM>(index));
+    } else if (index == -1 || (index >= 0 && send(list, LB_GETCURSEL) == index)) {
+        send(list, LB_SETCURSEL, static_cast<WPARAM>(-1));
+    }
+}
+
+// LB_SETCURSEL: not for multi-select list boxes; -1 clears; an index out of
+// range changes nothing.
+void Win32DialogView::listSetCurrent(int id, int index) {
+    HWND list = find(dialog_, id, Kind::ListBox);
+    if (!list || multiSelect(list)) return;
+    if (index != -1 && !validIndex(list, LB_GETCOUNT, index)) return;
+    ChangingControls changing;
+    send(list, LB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+void Win32DialogView::setRedraw(int id, bool on) {
+    HWND control = GetDlgItem(dialog_, id);
+    if (!control) return;
+    ChangingControls changing;
+    send(control, WM_SETREDRAW, on ? TRUE : FALSE);
+    if (on) {
+        InvalidateRect(control, nullptr, TRUE);
+        UpdateWindow(control);
+    }
+}
+
+// ---------------------------------------------------------------------------
+// Combo boxes
+
+void Win32DialogView::comboAdd(int id, std::string_view text) {
+    HWND combo = find(dialog_, id, Kind::ComboBox);
+    if (!combo) return;
+    const std::string item = cString(text);
+    ChangingControls changing;
+    send(combo, CB_ADDSTRING, 0, textArgument(item));
+}
+
+// CB_RESETCONTENT; the edit field is emptied too.
+void Win32DialogView::comboClear(int id) {
+    HWND combo = find(dialog_, id, Kind::ComboBox);
+    if (!combo) return;
+    ChangingControls changing;
+    send(combo, CB_RESETCONTENT);
+    if (!dropList(combo)) SetWindowTextA(combo, "");
+}
+
+int Win32DialogView::comboSelection(int id) const {
+    HWND combo = find(dialog_, id, Kind::ComboBox);
+    if (!combo) return -1;
+    const LRESULT current = send(combo, CB_GETCURSEL);
+    return current < 0 ? -1 : static_cast<int>(current);
+}
+
+// CB_SETCURSEL copies the item into the edit field; -1 or an index out of
+// range clears both the selection and the edit field.
+void Win32DialogView::comboSelect(int id, int index) {
+    HWND combo = find(dialog_, id, Kind::ComboBox);
+    if (!combo) return;
+    ChangingControls changing;
+    if (!validIndex(combo, CB_GETCOUNT, index)) index = -1;
+    send(combo, CB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+// ---------------------------------------------------------------------------
+// The dialog itself
+
+void Win32DialogView::centre() {
+    RECT frame{};
+    if (!GetWindowRect(dialog_, &frame)) return;
+    const int width = frame.right - frame.left;
+    const int height = frame.bottom - frame.top;
+    const int left = GetSystemMetrics(SM_CXSCREEN) / 2 - width / 2 + 1;
+    const int top = GetSystemMetrics(SM_CYSCREEN) / 2 - height / 2 + 1;
+    SetWindowPos(dialog_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Win32DialogView::end(int result) { EndDialog(dialog_, result); }
+
+}  // namespace kvs::win32

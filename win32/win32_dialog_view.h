@@ -1,0 +1,56 @@
+// DialogView over a real dialog window: every operation is a message to a
+// child control found by id. Ids the dialog does not have, or controls of
+// another kind than the operation needs, do nothing and read as empty, as
+// in the headless twin.
+#pragma once
+
+#include <windows.h>
+
+#include "core/seam.h"
+
+namespace kvs::win32 {
+
+class Win32DialogView : public DialogView {
+public:
+    explicit Win32DialogView(HWND dialog) : dialog_(dialog) {}
+
+    WindowRef handle() const override { return reinterpret_cast<WindowRef>(dialog_); }
+    bool has(int id) const override;
+
+    std::string text(int id) const override;
+    void setText(int id, std::string_view text) override;
+    bool isEnabled(int id) const override;
+    void enable(int id, bool on) override;
+    bool isChecked(int id) const override;
+    void setChecked(int id, bool on) override;
+    void setFocus(int id) override;
+
+    int listCount(int id) const override;
+    std::string listText(int id, int index) const override;
+    int listAdd(int id, std::string_view text, ListInsert how) override;
+    void listDelete(int id, int index) override;
+    void listClear(int id) override;
+    std::vector<int> listSelection(int id) const override;
+    void listSelect(int id, int index, bool on) override;
+    void listSetCurrent(int id, int index) override;
+    void setRedraw(int id, bool on) override;
+
+    void comboAdd(int id, std::string_view text) override;
+    void comboClear(int id) override;
+    int comboSelection(int id) const override;
+    void comboSelect(int id, int index) override;
+
+    void centre() override;
+    void end(int result) override;
+
+private:
+    HWND dialog_;
+};
+
+// True while a view is changing a control. Notifications the controls send
+// meanwhile (EN_CHANGE after a text is set, focus notifications) come from
+// the program, not the user; the dialog procedure does not pass them on, so
+// handlers see the same notifications as under the headless backend.
+bool viewIsChangingControls();
+
+}  // namespace kvs::win32

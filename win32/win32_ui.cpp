@@ -1,0 +1,132 @@
+#include "win32/win32_ui.h"
+
+#include <windows.h>
+#include <commdlg.h>
+
+#include <algorithm>
+#include <climits>
+
+#include "core/file_filters.h"
+#include "win32/dialog_procedure.h"
+#include "win32/module_instance.h"
+
+namespace kvs::win32 {
+
+namespace {
+
+// RT_DIALOG, spelled for the ANSI call whatever UNICODE says.
+const LPCSTR kDialogResourceType = MAKEINTRESOURCEA(5);
+
+HWND windowOf(WindowRef ref) { return reinterpret_cast<HWND>(ref); }
+WindowRef refOf(HWND window) { return reinterpret_cast<WindowRef>(window); }
+
+UINT iconStyle(MessageIcon icon) {
+    switch (icon) {
+    case MessageIcon::Stop: return MB_ICONHAND;
+    case MessageIcon::Exclamation: return MB_ICONEXCLAMATION;
+    case MessageIcon::Question: return MB_ICONQUESTION;
+    case MessageIcon::Information: return MB_ICONASTERISK;
+    case MessageIcon::None: break;
+    }
+    return 0;
+}
+
+UINT buttonStyle(MessageButtons buttons) {
+    switch (buttons) {
+    case MessageButtons::OkCancel: return MB_OKCANCEL;
+    case MessageButtons::YesNo: return MB_YESNO;
+    case MessageButtons::Ok: break;
+    }
+    return MB_OK;
+}
+
+// A text with its end cut so that it fits capacity bytes with its NUL.
+std::string fitted(const std::string& text, std::size_t capacity) {
+    std::string out = text.substr(0, text.find('\0'));
+    if (capacity == 0) return {};
+    if (out.size() >= capacity) out.resize(capacity - 1);
+    return out;
+}
+
+}  // namespace
+
+Win32Ui& win32Ui() {
+    static Win32Ui services;
+    return services;
+}
+
+int Win32Ui::runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) {
+    const std::string name(templateName);
+    HINSTANCE instance = dialogInstance();
+    if (!FindResourceA(instance, name.c_str(), kDialogResourceType)) return -1;
+    DialogSession session;
+    session.handler = &handler;
+    const INT_PTR result = DialogBoxParamA(instance, name.c_str(), windowOf(owner), libraryDialogProcedure,
+                                           reinterpret_cast<LPARAM>(&session));
+    return static_cast<int>(result);
+}
+
+int Win32Ui::messageBox(const MessageRequest& request) {
+    const char* caption = request.caption ? request.caption->c_str() : nullptr;
+    return MessageBoxA(windowOf(request.owner), request.text.c_str(), caption,
+                       iconStyle(request.icon) | buttonStyle(request.buttons));
+}
+
+std::optional<std::string> Win32Ui::chooseFile(const FileRequest& request) {
+    const std::size_t capacity = std::clamp<std::size_t>(request.capacity, 1, 32767);
+    std::string path = fitted(request.initialName, capacity);
+    path.resize(capacity, '\0');
+    const std::string filter = nulSeparated(request.filter);
+
+    OPENFILENAMEA dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = windowOf(request.owner);
+    dialog.hInstance = moduleInstance();
+    dialog.lpstrFilter = request.filter.empty() ? nullptr : filter.c_str();
+    dialog.lpstrFile = path.data();
+    dialog.nMaxFile = static_cast<DWORD>(capacity);
+    dialog.lpstrTitle = request.title.empty() ? nullptr : request.title.c_str();
+    dialog.lpstrDefExt = request.defaultExtension.empty() ? nullptr : request.defaultExtension.c_str();
+    dialog.Flags = request.flags;
+
+    const BOOL chosen = request.save ? GetSaveFileNameA(&dialog) : GetOpenFileNameA(&dialog);
+    CommDlgExtendedError();  // asked, as the library always has, and not acted on
+    if (!chosen) return std::nullopt;
+    const std::size_t end = path.find('\0');
+    path.resize(end == std::string::npos ? capacity - 1 : end);
+    return path;
+}
+
+void Win32Ui::help(const HelpRequest& request) {
+    HWND owner = windowOf(request.owner);
+    const char* file = request.file.c_str();
+    switch (request.kind) {
+    case HelpKind::Context: WinHelpA(owner, file, HELP_CONTEXT, request.context); break;
+    case HelpKind::Contents: WinHelpA(owner, file, HELP_CONTENTS, 0); break;
+    case HelpKind::Key:
+        WinHelpA(owner, file, HELP_PARTIALKEY, reinterpret_cast<ULONG_PTR>(request.key.c_str()));
+        break;
+    case HelpKind::HelpOnHelp: WinHelpA(owner, file, HELP_HELPONHELP, 0); break;
+    }
+}
+
+WindowRef Win32Ui::focusWindow() { return refOf(GetFocus()); }
+
+std::string Win32Ui::windowTitle(WindowRef window, std::size_t capacity) {
+    if (capacity == 0) return {};
+    const int room = static_cast<int>(std::min<std::size_t>(capacity, INT_MAX));
+    std::string title(static_cast<std::size_t>(room), '\0');
+    const int copied = GetWindowTextA(windowOf(window), title.data(), room);
+    title.resize(static_cast<std::size_t>(std::clamp(copied, 0, room - 1)));
+    return title;
+}
+
+std::uintptr_t Win32Ui::beginWait() {
+    return reinterpret_cast<std::uintptr_t>(SetCursor(LoadCursor(nullptr, IDC_WAIT)));
+}
+
+void Win32Ui::endWait(std::uintptr_t previous) { SetCursor(reinterpret_cast<HCURSOR>(previous)); }
+
+void Win32Ui::beep() { MessageBeep(MB_OK); }
+
+}  // namespace kvs::win32

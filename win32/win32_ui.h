@@ -1,0 +1,24 @@
+// UiServices over USER32, COMDLG32 and WinHelp.
+#pragma once
+
+#include "core/seam.h"
+
+namespace kvs::win32 {
+
+class Win32Ui : public UiServices {
+public:
+    int runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    int messageBox(const MessageRequest& request) override;
+    std::optional<std::string> chooseFile(const FileRequest& request) override;
+    void help(const HelpRequest& request) override;
+    WindowRef focusWindow() override;
+    std::string windowTitle(WindowRef window, std::size_t capacity) override;
+    std::uintptr_t beginWait() override;
+    void endWait(std::uintptr_t previous) override;
+    void beep() override;
+};
+
+// The services installed at load.
+Win32Ui& win32Ui();
+
+}  // namespace kvs::win32
