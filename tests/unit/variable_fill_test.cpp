@@ -7,6 +7,7 @@
 #include "core/variable_list.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
+#include "standin/host_state.h"
 #include "standin/kernel_state.h"
 
 namespace {
@@ -102,6 +103,26 @@ TEST_F(VariableFillTest, TargetListsRoundTripThroughSelectionArrays) {
     dialog.listClear(10);
     kvs::restoreSelection(dialog, entries, 3, 10, catalogue);
     EXPECT_EQ(items(dialog, 10), (std::vector<std::string>{"Z", "X"}));
+}
+
+}  // namespace
+
+namespace {
+
+TEST_F(VariableFillTest, AnotherFilesVariablesReplaceTheList) {
+    kvs::standin::HostState::instance().setFile("C:\\DATA\\B.KVD", {"K1", "NAME$", "ABCDEFGHIJKL"});
+    HeadlessDialog dialog(*resources.dialog("Sort"));
+    dialog.listAdd(4, "OLD", kvs::ListInsert::Append);
+    kvs::fillListFromFile(dialog, "c:\\data\\b.kvd", 4, kvs::ListInsert::Append, &catalogue);
+    EXPECT_EQ(items(dialog, 4), (std::vector<std::string>{"K1", "NAME$", "ABCDEFGHIJKL"}));
+    EXPECT_EQ(catalogue.indexOf("NAME$"), 1);
+    EXPECT_EQ(KernelState::instance().liveBlocks(), 0u) << "the host's block is freed";
+
+    kvs::fillListFromFile(dialog, "", 4, kvs::ListInsert::Append, &catalogue);
+    EXPECT_EQ(dialog.listCount(4), 3) << "an empty name does nothing";
+    kvs::fillListFromFile(dialog, "C:\\NONE.KVD", 4, kvs::ListInsert::Append, &catalogue);
+    EXPECT_EQ(dialog.listCount(4), 0) << "a file without variables leaves the list empty";
+    kvs::standin::HostState::instance().reset();
 }
 
 }  // namespace
