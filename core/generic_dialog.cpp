@@ -116,7 +116,7 @@ void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
         return;
     DialogContext context{view, *this};
     switch (controlId) {
-    case IDC_HELP: help(view); return;
+    case IDC_HELPBUTTON: help(view); return;
     case IDC_RESETALL: resetAll(view); return;
     case kIdCancel: close(view, kIdCancel); return;
     case kIdOk:

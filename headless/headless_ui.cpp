@@ -88,7 +88,7 @@ std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
     pumpUntil([&] { return window.answered; });
     stack_.pop_back();
     if (!window.path) return std::nullopt;
-    std::string path = withDefaultExtension(*window.path, request.defaultExtension);
+    std::string path = withDefaultExtension(*window.path, addedExtension(request));
     if (path.size() >= request.capacity) path.resize(request.capacity - 1);
     return path;
 }
@@ -123,6 +123,20 @@ std::string HeadlessUi::withDefaultExtension(const std::string& path, const std:
     const std::size_t nameStart = slash == std::string::npos ? 0 : slash + 1;
     if (path.find('.', nameStart) != std::string::npos) return path;
     return path + "." + extension;
+}
+
+std::string HeadlessUi::addedExtension(const FileRequest& request) {
+    if (request.defaultExtension.empty()) return {};
+    const std::size_t bar = request.filter.find('|');
+    if (bar == std::string::npos) return request.defaultExtension;
+    const std::size_t end = request.filter.find_first_of("|;", bar + 1);
+    const std::string pattern =
+        request.filter.substr(bar + 1, end == std::string::npos ? std::string::npos : end - bar - 1);
+    const std::size_t dot = pattern.find('.');
+    if (dot == std::string::npos) return request.defaultExtension;
+    const std::string extension = pattern.substr(dot + 1);
+    if (extension.empty() || extension.find_first_of("*?") != std::string::npos) return request.defaultExtension;
+    return extension;
 }
 
 }  // namespace kvs::headless

@@ -75,6 +75,11 @@ public:
     // What the common file dialog returns for a typed name: the default
     // extension is added to a name without one.
     static std::string withDefaultExtension(const std::string& path, const std::string& extension);
+    // The extension the common dialog adds to a name typed without one: that
+    // of the first pattern of the chosen (first) filter, "*.kvd;*.kvs" giving
+    // "kvd", or the default extension when that pattern has a wildcard after
+    // its dot. Nothing without a default extension.
+    static std::string addedExtension(const FileRequest& request);
 
 private:
     void pumpUntil(const std::function<bool()>& done);

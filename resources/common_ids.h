@@ -10,7 +10,7 @@
 #define IDC_REMOVE2         9
 #define IDC_TARGET1         10
 #define IDC_TARGET2         11
-#define IDC_HELP            12
+#define IDC_HELPBUTTON            12
 #define IDC_RESETALL        13
 #define IDC_ADD5            51
 #define IDC_REMOVE5         52

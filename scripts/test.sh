@@ -15,3 +15,7 @@ for arch in i686 x86_64; do
   echo "== $arch"
   "$root/scripts/build.sh" "$arch"
 done
+echo "== DLL export and import tables"
+"$root/tests/win/check_dll_tables.sh" "$root/build" i686 x86_64
+echo "== real windows under Wine"
+"$root/tests/win/run_view_parity.sh" "$root/build/wine"

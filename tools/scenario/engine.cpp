@@ -41,7 +41,10 @@ std::string describeControl(int id, const ControlInfo& control) {
     switch (control.kind) {
     case ControlKind::ListBox:
         line = "list " + number;
-        for (const std::string& item : control.items) line += " " + quote(item);
+        for (const std::string& item : control.items) {
+            line += ' ';
+            line += quote(item);
+        }
         break;
     case ControlKind::ComboBox:
         line = "combo " + number + " " + quote(control.text);
