@@ -11,6 +11,7 @@
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
 #include "include/kvs_dlg.h"
+#include "tests/unit/fake_ui.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
 
@@ -19,30 +20,6 @@ namespace {
 using kvs::library;
 using kvs::standin::HostState;
 using kvs::standin::KernelState;
-
-// A backend whose "modal loop" is a function of the test.
-class ScriptedUi : public kvs::UiServices {
-public:
-    std::function<int(std::string_view)> dialog = [](std::string_view) { return 2; };
-    std::vector<std::string> messages;
-    std::vector<std::string> opened;
-
-    int runModal(kvs::WindowRef, std::string_view name, kvs::DialogHandler&) override {
-        opened.emplace_back(name);
-        return dialog(name);
-    }
-    int messageBox(const kvs::MessageRequest& request) override {
-        messages.push_back(request.text);
-        return kvs::kIdOk;
-    }
-    std::optional<std::string> chooseFile(const kvs::FileRequest&) override { return std::nullopt; }
-    void help(const kvs::HelpRequest&) override {}
-    kvs::WindowRef focusWindow() override { return 0; }
-    std::string windowTitle(kvs::WindowRef, std::size_t) override { return "KORVAN"; }
-    std::uintptr_t beginWait() override { return 0; }
-    void endWait(std::uintptr_t) override {}
-    void beep() override {}
-};
 
 class StartDialogTest : public ::testing::Test {
 protected:
@@ -64,7 +41,7 @@ protected:
         EXPECT_EQ(library().currentCommandId, kvs::kNoCommand);
         for (std::int32_t slot : library().optionSlots) EXPECT_EQ(slot, -1);
     }
-    ScriptedUi ui;
+    kvs::testing::FakeUi ui;
     std::vector<std::string> host;
 };
 

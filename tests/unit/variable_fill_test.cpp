@@ -7,6 +7,7 @@
 #include "core/variable_list.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
+#include "tests/unit/fake_ui.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
 
@@ -14,26 +15,6 @@ namespace {
 
 using kvs::headless::HeadlessDialog;
 using kvs::standin::KernelState;
-
-// Records message boxes and answers them at once.
-class RecordingUi : public kvs::UiServices {
-public:
-    int runModal(kvs::WindowRef, std::string_view, kvs::DialogHandler&) override { return -1; }
-    int messageBox(const kvs::MessageRequest& request) override {
-        messages.push_back(request.text);
-        return kvs::kIdOk;
-    }
-    std::optional<std::string> chooseFile(const kvs::FileRequest&) override { return std::nullopt; }
-    void help(const kvs::HelpRequest&) override {}
-    kvs::WindowRef focusWindow() override { return 0; }
-    std::string windowTitle(kvs::WindowRef, std::size_t) override { return {}; }
-    std::uintptr_t beginWait() override { return ++waits; }
-    void endWait(std::uintptr_t) override { --waits; }
-    void beep() override {}
-
-    std::vector<std::string> messages;
-    std::uintptr_t waits = 0;
-};
 
 class VariableFillTest : public ::testing::Test {
 protected:
@@ -52,7 +33,7 @@ protected:
         return out;
     }
     kvs::headless::ResourceSet resources;
-    RecordingUi ui;
+    kvs::testing::FakeUi ui;
     kvs::VariableCatalogue catalogue;
 };
 
