@@ -1,9 +1,12 @@
 // kvsdlg: runs scenario files against the dialog library and prints their
 // transcripts.
 //
-//   kvsdlg run [--backend=headless] FILE.scn...
-//   kvsdlg check FILE.scn...    compares each transcript with FILE.out
-//   kvsdlg update FILE.scn...   writes each transcript to FILE.out
+//   kvsdlg run [--backend=headless|wine] FILE.scn...
+//   kvsdlg check [--backend=...] FILE.scn...    compares each transcript with FILE.out
+//   kvsdlg update [--backend=...] FILE.scn...   writes each transcript to FILE.out
+//
+// The wine backend runs every file in one KORVAN.exe under Wine against the
+// real kvs_dlg.dll (tools/wine/korvan.sh; build x86_64 first).
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -12,11 +15,12 @@
 
 #include "headless/embedded_resources.h"
 #include "headless/headless_backend.h"
+#include "tools/kvsdlg/wine_backend.h"
 
 namespace {
 
 int usage() {
-    std::cerr << "usage: kvsdlg run|check|update [--backend=headless] FILE.scn...\n";
+    std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] FILE.scn...\n";
     return 2;
 }
 
@@ -55,16 +59,25 @@ int main(int argc, char** argv) {
     const std::string command = argv[1];
     if (command != "run" && command != "check" && command != "update") return usage();
     std::vector<std::string> files;
+    bool wine = false;
     for (int i = 2; i < argc; ++i) {
         const std::string argument = argv[i];
         if (argument.rfind("--backend=", 0) == 0) {
-            if (argument != "--backend=headless") {
-                std::cerr << "kvsdlg: this build runs only the headless backend\n";
-                return 2;
-            }
+            if (argument != "--backend=headless" && argument != "--backend=wine") return usage();
+            wine = argument == "--backend=wine";
             continue;
         }
         files.push_back(argument);
+    }
+
+    // Under Wine every file runs in one process, before any is compared.
+    std::vector<std::string> wineTranscripts;
+    bool wineFailed = false;
+    if (wine) {
+        std::string error;
+        wineFailed = kvs::tools::runUnderWine(files, wineTranscripts, error) != 0;
+        if (wineFailed) std::cerr << "kvsdlg: " << error << '\n';
+        if (wineFailed && command == "update") return 1;
     }
 
     kvs::headless::ResourceSet resources;
@@ -77,14 +90,15 @@ int main(int argc, char** argv) {
     kvs::headless::HeadlessRunner runner(resources);
 
     int passed = 0, failed = 0;
-    for (const std::string& file : files) {
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const std::string& file = files[i];
         std::string source;
         if (!readFile(file, source)) {
             std::cerr << "kvsdlg: cannot read " << file << '\n';
             ++failed;
             continue;
         }
-        const std::string transcript = runner.run(source);
+        const std::string transcript = wine ? wineTranscripts[i] : runner.run(source);
         if (command == "run") {
             std::cout << transcript;
             continue;
@@ -106,5 +120,5 @@ int main(int argc, char** argv) {
         }
     }
     if (command == "check") std::cout << "scenarios: " << passed << " passed, " << failed << " failed\n";
-    return failed == 0 ? 0 : 1;
+    return failed == 0 && !wineFailed ? 0 : 1;
 }

@@ -1,0 +1,99 @@
+#include "standin/win/control_probe.h"
+
+#include <array>
+#include <vector>
+
+#include "standin/win/label_text.h"
+#include "standin/win/window_roles.h"
+
+namespace kvs::standin {
+
+using scenario::ControlKind;
+
+namespace {
+
+LONG styleOf(HWND control) { return GetWindowLongA(control, GWL_STYLE); }
+LONG buttonType(HWND control) { return styleOf(control) & BS_TYPEMASK; }
+
+bool isGroupBox(HWND control) {
+    return controlKind(control) == ControlKind::Button && buttonType(control) == BS_GROUPBOX;
+}
+
+bool isCheckable(HWND control) {
+    if (controlKind(control) != ControlKind::Button) return false;
+    switch (buttonType(control)) {
+    case BS_CHECKBOX:
+    case BS_AUTOCHECKBOX:
+    case BS_3STATE:
+    case BS_AUTO3STATE:
+    case BS_RADIOBUTTON:
+    case BS_AUTORADIOBUTTON: return true;
+    default: return false;
+    }
+}
+
+// An item's text, or empty when the index is out of range.
+std::string itemText(HWND control, UINT lengthMessage, UINT textMessage, int index) {
+    const LRESULT length = SendMessageA(control, lengthMessage, static_cast<WPARAM>(index), 0);
+    if (length < 0) return {};
+    std::vector<char> buffer(static_cast<std::size_t>(length) + 1, '\0');
+    const LRESULT copied =
+        SendMessageA(control, textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
+    return copied < 0 ? std::string() : std::string(buffer.data(), static_cast<std::size_t>(copied));
+}
+
+}  // namespace
+
+ControlKind controlKind(HWND control) {
+    std::array<char, 64> name{};
+    if (!control || GetClassNameA(control, name.data(), static_cast<int>(name.size())) <= 0) return ControlKind::Other;
+    if (lstrcmpiA(name.data(), "Button") == 0) return ControlKind::Button;
+    if (lstrcmpiA(name.data(), "Static") == 0) return ControlKind::Static;
+    if (lstrcmpiA(name.data(), "Edit") == 0) return ControlKind::Edit;
+    if (lstrcmpiA(name.data(), "ListBox") == 0) return ControlKind::ListBox;
+    if (lstrcmpiA(name.data(), "ComboBox") == 0) return ControlKind::ComboBox;
+    return ControlKind::Other;
+}
+
+bool isMultiSelectList(HWND control) {
+    return controlKind(control) == ControlKind::ListBox && (styleOf(control) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL));
+}
+
+bool isMultilineEdit(HWND control) {
+    return controlKind(control) == ControlKind::Edit && (styleOf(control) & ES_MULTILINE);
+}
+
+scenario::ControlInfo describeControl(HWND control) {
+    scenario::ControlInfo info;
+    info.kind = controlKind(control);
+    info.enabled = IsWindowEnabled(control) != FALSE;
+    info.checkable = isCheckable(control);
+    info.checked = info.checkable && SendMessageA(control, BM_GETCHECK, 0, 0) == BST_CHECKED;
+    info.text = windowText(control);
+    if (info.kind == ControlKind::ListBox) {
+        const auto count = static_cast<int>(SendMessageA(control, LB_GETCOUNT, 0, 0));
+        for (int i = 0; i < count; ++i) info.items.push_back(itemText(control, LB_GETTEXTLEN, LB_GETTEXT, i));
+    } else if (info.kind == ControlKind::ComboBox) {
+        const auto count = static_cast<int>(SendMessageA(control, CB_GETCOUNT, 0, 0));
+        for (int i = 0; i < count; ++i) info.items.push_back(itemText(control, CB_GETLBTEXTLEN, CB_GETLBTEXT, i));
+        info.comboSelection = static_cast<int>(SendMessageA(control, CB_GETCURSEL, 0, 0));
+    }
+    return info;
+}
+
+std::optional<int> controlByLabel(HWND dialog, std::string_view label) {
+    const std::string wanted = labelText(label);
+    HWND previous = nullptr;
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; previous = child, child = GetWindow(child, GW_HWNDNEXT)) {
+        const ControlKind kind = controlKind(child);
+        const int id = GetDlgCtrlID(child);
+        if (kind == ControlKind::Button && !isGroupBox(child) && labelText(windowText(child)) == wanted) return id;
+        const bool labelled = kind == ControlKind::ListBox || kind == ControlKind::Edit || kind == ControlKind::ComboBox;
+        if (labelled && previous && controlKind(previous) == ControlKind::Static &&
+            labelText(windowText(previous)) == wanted)
+            return id;
+    }
+    return std::nullopt;
+}
+
+}  // namespace kvs::standin

@@ -1,0 +1,177 @@
+#include "standin/win/scenario_driver.h"
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include "standin/host_state.h"
+#include "standin/kernel_state.h"
+#include "standin/win/help_catcher.h"
+#include "standin/win/kernel_control.h"
+#include "standin/win/library.h"
+#include "standin/win/owner_window.h"
+#include "standin/win/window_backend.h"
+#include "standin/win/window_watch.h"
+#include "tools/scenario/transcript.h"
+
+namespace kvs::standin {
+
+namespace {
+
+// A modal loop with no window a scenario could act on for this long is
+// stuck (a window the driver does not know, such as a popup menu).
+constexpr DWORD kStuckMilliseconds = 20000;
+constexpr DWORD kQuietMilliseconds = 1000;
+
+std::string fullPath(const std::string& path) {
+    std::array<char, MAX_PATH> buffer{};
+    const DWORD length = GetFullPathNameA(path.c_str(), static_cast<DWORD>(buffer.size()), buffer.data(), nullptr);
+    return length > 0 && length < buffer.size() ? std::string(buffer.data(), length) : path;
+}
+
+std::string currentFolder() {
+    std::array<char, MAX_PATH> buffer{};
+    const DWORD length = GetCurrentDirectoryA(static_cast<DWORD>(buffer.size()), buffer.data());
+    return length > 0 && length < buffer.size() ? std::string(buffer.data(), length) : std::string();
+}
+
+bool readFile(const std::string& path, std::string& text) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return false;
+    std::ostringstream buffer;
+    buffer << in.rdbuf();
+    text = buffer.str();
+    return true;
+}
+
+class ScenarioRun {
+public:
+    explicit ScenarioRun(std::FILE* out)
+        : out_(out),
+          owner_(createOwnerWindow(scenario::Engine::kDefaultTitle)),
+          backend_(library_, owner_),
+          engine_(backend_, [this](const std::string& line) { emit(line); }) {}
+
+    ~ScenarioRun() {
+        if (owner_) DestroyWindow(owner_);
+    }
+
+    bool ready() const { return owner_ != nullptr; }
+
+    bool runFile(std::size_t number, const std::string& path);
+
+private:
+    void emit(const std::string& line) {
+        std::fputs(line.c_str(), out_);
+        std::fputc('\n', out_);
+        std::fflush(out_);
+    }
+    void onTick(HWND top);
+    void resetHostAndKernel();
+
+    std::FILE* out_;
+    Library library_;
+    HWND owner_;
+    HelpCatcher help_;
+    WindowWatch watch_;
+    WindowBackend backend_;
+    scenario::Engine engine_;
+    DWORD lastTick_ = 0;
+    DWORD waitingSince_ = 0;  // 0: not waiting
+};
+
+void ScenarioRun::resetHostAndKernel() {
+    HostState& host = HostState::instance();
+    host.reset();
+    host.setSink([this](const std::string& line) { emit(line); });
+    KvsStandinReset();
+    KernelState::instance().reset();
+    SetWindowTextA(owner_, scenario::Engine::kDefaultTitle);
+}
+
+void ScenarioRun::onTick(HWND top) {
+    const DWORD now = GetTickCount();
+    // A quiet timer means no modal loop ran in between: a new wait begins.
+    if (now - lastTick_ > kQuietMilliseconds) waitingSince_ = 0;
+    lastTick_ = now;
+    if (top) {
+        waitingSince_ = 0;
+        if (!engine_.step()) engine_.windowLeftOpen();
+        return;
+    }
+    if (!waitingSince_) {
+        waitingSince_ = now;
+    } else if (now - waitingSince_ > kStuckMilliseconds) {
+        emit("error " + scenario::quote("stuck: no window to act on for " +
+                                        std::to_string(kStuckMilliseconds / 1000) + " s"));
+        std::fclose(out_);
+        ExitProcess(3);
+    }
+}
+
+bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
+    emit("#scenario " + std::to_string(number) + " " + path);
+    std::string source;
+    if (!readFile(path, source)) {
+        emit("error " + scenario::quote("cannot read " + path));
+        return false;
+    }
+    resetHostAndKernel();
+    std::string error;
+    if (!library_.load(error)) {
+        emit("error " + scenario::quote(error));
+        return false;
+    }
+    const bool watching = help_.open([this](const std::string& line) { emit(line); }) &&
+                          watch_.start(library_.module(), [this](const std::string& line) { emit(line); },
+                                       [this](HWND top) { onTick(top); });
+    if (!watching) {
+        emit("error " + scenario::quote("cannot watch the library's windows"));
+        library_.unload();
+        return false;
+    }
+    lastTick_ = GetTickCount();
+    waitingSince_ = 0;
+
+    engine_.load(source);
+    while (engine_.step()) {
+    }
+
+    watch_.stop();
+    library_.unload();
+    // Still mapped, the next file would meet this file's remembered settings.
+    const bool unloaded = GetModuleHandleA("kvs_dlg.dll") == nullptr;
+    if (!unloaded) emit("error " + scenario::quote("kvs_dlg.dll stayed loaded after the scenario"));
+    HostState::instance().setSink(nullptr);
+    return unloaded;
+}
+
+}  // namespace
+
+// A file dialog makes the folder it ends in the current one: each file starts
+// from the folder the run started in, and names are resolved before any runs.
+int runScenarioFiles(const std::string& outPath, const std::vector<std::string>& files) {
+    const std::string folder = currentFolder();
+    std::vector<std::string> paths;
+    for (const std::string& file : files) paths.push_back(fullPath(file));
+    std::FILE* out = std::fopen(outPath.c_str(), "wb");
+    if (!out) return 1;
+    bool allRun = true;
+    {
+        ScenarioRun run(out);
+        if (!run.ready()) {
+            std::fclose(out);
+            return 1;
+        }
+        for (std::size_t i = 0; i < paths.size(); ++i) {
+            SetCurrentDirectoryA(folder.c_str());
+            allRun = run.runFile(i + 1, paths[i]) && allRun;
+        }
+    }
+    std::fputs("#end\n", out);
+    std::fclose(out);
+    return allRun ? 0 : 1;
+}
+
+}  // namespace kvs::standin

@@ -1,0 +1,181 @@
+#include "standin/win/window_backend.h"
+
+#include <set>
+
+#include "standin/host_state.h"
+#include "standin/kernel_state.h"
+#include "standin/win/control_probe.h"
+#include "standin/win/kernel_control.h"
+#include "standin/win/window_roles.h"
+
+namespace kvs::standin {
+
+using scenario::ControlKind;
+using scenario::WindowKind;
+
+void WindowBackend::setVariables(const std::vector<std::string>& names) {
+    std::vector<const char*> pointers;
+    pointers.reserve(names.size());
+    for (const std::string& name : names) pointers.push_back(name.c_str());
+    KvsStandinSetVariables(static_cast<int32_t>(pointers.size()), pointers.data());
+    // The host knows its data file too (GetNumVars).
+    KernelState::instance().setVariables(names);
+}
+
+void WindowBackend::setFile(const std::string& path, const std::vector<std::string>& names) {
+    HostState::instance().setFile(path, names);
+}
+
+void WindowBackend::setActiveModules(const std::vector<std::string>& modules) {
+    HostState::instance().setActiveModules(std::set<std::string>(modules.begin(), modules.end()));
+}
+
+void WindowBackend::setMatrix(bool matrix) { HostState::instance().matrix = matrix; }
+void WindowBackend::setOwnerTitle(const std::string& title) { SetWindowTextA(owner_, title.c_str()); }
+void WindowBackend::failAllocation(int nth) { KvsStandinFailAllocation(nth); }
+long WindowBackend::liveAllocations() { return KvsStandinLiveBlocks(); }
+
+std::int32_t WindowBackend::startDialog(std::uint32_t id, const std::string& helpFile) {
+    return library_.startDialog(id, owner_, helpFile.c_str());
+}
+
+void WindowBackend::reinitDialogs(std::int32_t value) { library_.reinitDialogs(value); }
+void WindowBackend::setSortList(std::int32_t value) { library_.setDlgSortList(value); }
+
+WindowKind WindowBackend::topKind() {
+    const HWND top = topDialogWindow();
+    return top ? roleOf(top, library_.module()) : WindowKind::None;
+}
+
+std::string WindowBackend::topText() {
+    const HWND top = topDialogWindow();
+    return roleOf(top, library_.module()) == WindowKind::Message ? messageText(top) : windowText(top);
+}
+
+HWND WindowBackend::dialog() {
+    const HWND top = topDialogWindow();
+    return roleOf(top, library_.module()) == WindowKind::Dialog ? top : nullptr;
+}
+
+HWND WindowBackend::item(int id) {
+    const HWND window = dialog();
+    return window ? GetDlgItem(window, id) : nullptr;
+}
+
+void WindowBackend::notify(HWND window, int id, int code) {
+    SendMessageA(window, WM_COMMAND, MAKEWPARAM(static_cast<WORD>(id), static_cast<WORD>(code)),
+                 reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
+}
+
+std::optional<int> WindowBackend::controlByLabel(std::string_view label) {
+    const HWND window = dialog();
+    return window ? standin::controlByLabel(window, label) : std::nullopt;
+}
+
+std::optional<scenario::ControlInfo> WindowBackend::control(int id) {
+    const HWND control = item(id);
+    if (!control) return std::nullopt;
+    return describeControl(control);
+}
+
+// LB_SETSEL and LB_SETCURSEL notify nobody: the selection change is sent as
+// the list box would send it after a mouse selection.
+void WindowBackend::selectItems(int listId, const std::vector<int>& indices) {
+    const HWND window = dialog();
+    const HWND list = item(listId);
+    if (!list) return;
+    if (isMultiSelectList(list)) {
+        SendMessageA(list, LB_SETSEL, FALSE, -1);
+        for (int index : indices) SendMessageA(list, LB_SETSEL, TRUE, index);
+    } else if (indices.empty()) {
+        SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    } else {
+        for (int index : indices) SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    }
+    notify(window, listId, LBN_SELCHANGE);
+}
+
+// The engine has already moved on to the next statement, so a click that
+// opens a modal window may be sent: the statements after it run inside.
+void WindowBackend::click(int id) {
+    const HWND window = dialog();
+    const HWND control = item(id);
+    if (!control) return;
+    if (controlKind(control) == ControlKind::Button) SendMessageA(control, BM_CLICK, 0, 0);
+    else notify(window, id, BN_CLICKED);
+}
+
+void WindowBackend::doubleClick(int listId, int index) {
+    selectItems(listId, {index});
+    if (const HWND window = dialog()) notify(window, listId, LBN_DBLCLK);
+}
+
+// A single-line edit reports WM_SETTEXT itself with EN_CHANGE; a multi-line
+// edit and a combo box do not, so the notification a typing user causes is
+// sent for them.
+void WindowBackend::typeText(int id, const std::string& text) {
+    const HWND window = dialog();
+    const HWND control = item(id);
+    if (!control) return;
+    SetWindowTextA(control, text.c_str());
+    const ControlKind kind = controlKind(control);
+    if (kind == ControlKind::ComboBox) notify(window, id, CBN_EDITCHANGE);
+    else if (kind != ControlKind::Edit || isMultilineEdit(control)) notify(window, id, EN_CHANGE);
+}
+
+void WindowBackend::chooseEntry(int id, int index) {
+    const HWND window = dialog();
+    const HWND control = item(id);
+    if (!control) return;
+    if (controlKind(control) == ControlKind::ComboBox) {
+        SendMessageA(control, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+        notify(window, id, CBN_SELCHANGE);
+    } else {
+        selectItems(id, {index});
+    }
+}
+
+void WindowBackend::sysCommand(int code) {
+    if (const HWND window = dialog()) SendMessageA(window, WM_SYSCOMMAND, static_cast<WPARAM>(code), 0);
+}
+
+scenario::Buttons WindowBackend::messageButtons() { return standin::messageButtons(topDialogWindow()); }
+
+void WindowBackend::answerMessage(int buttonId) {
+    const HWND button = GetDlgItem(topDialogWindow(), buttonId);
+    if (button) SendMessageA(button, BM_CLICK, 0, 0);
+}
+
+void WindowBackend::answerChooser(const std::optional<std::string>& path) {
+    const HWND chooser = topDialogWindow();
+    if (roleOf(chooser, library_.module()) != WindowKind::Chooser) return;
+    if (path) {
+        HWND name = GetDlgItem(chooser, kChooserNameCombo);
+        if (!name) name = GetDlgItem(chooser, kChooserNameEdit);
+        SetWindowTextA(name, path->c_str());
+    }
+    const HWND button = GetDlgItem(chooser, path ? IDOK : IDCANCEL);
+    if (button) SendMessageA(button, BM_CLICK, 0, 0);
+}
+
+void WindowBackend::dismissTop() {
+    const HWND top = topDialogWindow();
+    switch (roleOf(top, library_.module())) {
+    case WindowKind::Dialog:
+        notify(top, IDCANCEL, BN_CLICKED);
+        // A dialog that ignores Cancel is ended as closing it would.
+        if (IsWindow(top) && IsWindowVisible(top)) EndDialog(top, IDCANCEL);
+        break;
+    case WindowKind::Message: {
+        const scenario::Buttons buttons = standin::messageButtons(top);
+        answerMessage(buttons == scenario::Buttons::YesNo      ? IDNO
+                      : buttons == scenario::Buttons::OkCancel ? IDCANCEL
+                                                               : IDOK);
+        break;
+    }
+    case WindowKind::Chooser: answerChooser(std::nullopt); break;
+    case WindowKind::None: break;
+    }
+}
+
+}  // namespace kvs::standin

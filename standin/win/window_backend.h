@@ -1,0 +1,54 @@
+// The scenario engine's backend over real windows: the stand-in host and
+// kernel of this process and kernkvs.dll, the library's exports, and the
+// topmost window of the thread, acted on with the messages a user's mouse
+// and keyboard would cause.
+#pragma once
+
+#include <windows.h>
+
+#include "standin/win/library.h"
+#include "tools/scenario/engine.h"
+
+namespace kvs::standin {
+
+class WindowBackend : public scenario::Backend {
+public:
+    WindowBackend(const Library& library, HWND owner) : library_(library), owner_(owner) {}
+
+    void setVariables(const std::vector<std::string>& names) override;
+    void setFile(const std::string& path, const std::vector<std::string>& names) override;
+    void setActiveModules(const std::vector<std::string>& modules) override;
+    void setMatrix(bool matrix) override;
+    void setOwnerTitle(const std::string& title) override;
+    void failAllocation(int nth) override;
+    long liveAllocations() override;
+
+    std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) override;
+    void reinitDialogs(std::int32_t value) override;
+    void setSortList(std::int32_t value) override;
+
+    scenario::WindowKind topKind() override;
+    std::string topText() override;
+    std::optional<int> controlByLabel(std::string_view label) override;
+    std::optional<scenario::ControlInfo> control(int id) override;
+    void selectItems(int listId, const std::vector<int>& indices) override;
+    void click(int id) override;
+    void doubleClick(int listId, int index) override;
+    void typeText(int id, const std::string& text) override;
+    void chooseEntry(int id, int index) override;
+    void sysCommand(int code) override;
+    scenario::Buttons messageButtons() override;
+    void answerMessage(int buttonId) override;
+    void answerChooser(const std::optional<std::string>& path) override;
+    void dismissTop() override;
+
+private:
+    HWND dialog();                     // the top window when it is a dialog
+    HWND item(int id);                 // a control of that dialog
+    void notify(HWND dialog, int id, int code);
+
+    const Library& library_;
+    HWND owner_;
+};
+
+}  // namespace kvs::standin

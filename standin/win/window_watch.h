@@ -1,0 +1,54 @@
+// Watches the thread's dialog windows while the library runs them: reports
+// each as it opens, the way the transcript names it, and calls a tick
+// function from a thread timer, which fires inside every modal loop
+// (DialogBox, MessageBox, the file dialogs), with the window to act on.
+//
+// Lines: `dialog "CAPTION"` when a library dialog gets WM_INITDIALOG, before
+// its own procedure sees it; `message "CAPTION" ICON "TEXT"` and
+// `chooser save|open "TITLE" "NAME"` right after the message box or file
+// dialog has initialised itself, so that its text, icon and file name are in
+// place.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace kvs::standin {
+
+class WindowWatch {
+public:
+    using Sink = std::function<void(const std::string&)>;
+    // Called with the topmost window a user could act on; never while a
+    // window that has been created is still waiting to be shown.
+    using Tick = std::function<void(HWND top)>;
+
+    static constexpr UINT kTickMilliseconds = 15;
+
+    // One watch at a time per thread. library: kvs_dlg.dll's module.
+    bool start(HMODULE library, Sink sink, Tick tick);
+    void stop();
+    ~WindowWatch() { stop(); }
+
+private:
+    static LRESULT CALLBACK beforeProcedure(int code, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK afterProcedure(int code, WPARAM wParam, LPARAM lParam);
+    static void CALLBACK onTimer(HWND, UINT, UINT_PTR, DWORD);
+    bool opening();
+
+    HMODULE library_ = nullptr;
+    Sink sink_;
+    Tick tick_;
+    HHOOK before_ = nullptr;
+    HHOOK after_ = nullptr;
+    UINT_PTR timer_ = 0;
+    struct Opening {
+        HWND window;
+        DWORD since;
+    };
+    std::vector<Opening> opening_;  // initialised but not shown yet
+};
+
+}  // namespace kvs::standin

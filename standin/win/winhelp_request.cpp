@@ -1,0 +1,54 @@
+#include "standin/win/winhelp_request.h"
+
+#include "tools/scenario/transcript.h"
+
+namespace kvs::standin {
+
+namespace {
+
+constexpr std::size_t kHeaderSize = 16;
+constexpr unsigned kHelpContext = 0x0001, kHelpContents = 0x0003, kHelpOnHelp = 0x0004;
+constexpr unsigned kHelpKey = 0x0101, kHelpPartialKey = 0x0105;
+
+unsigned word(const unsigned char* at) { return static_cast<unsigned>(at[0] | (at[1] << 8)); }
+
+std::uint32_t dword(const unsigned char* at) {
+    return static_cast<std::uint32_t>(at[0]) | static_cast<std::uint32_t>(at[1]) << 8 |
+           static_cast<std::uint32_t>(at[2]) << 16 | static_cast<std::uint32_t>(at[3]) << 24;
+}
+
+// The NUL-terminated text at offset, cut at the end of the block.
+std::string textAt(const unsigned char* block, std::size_t size, std::size_t offset) {
+    std::string text;
+    for (std::size_t i = offset; i < size && block[i] != 0; ++i) text += static_cast<char>(block[i]);
+    return text;
+}
+
+}  // namespace
+
+std::optional<std::string> winHelpLine(const unsigned char* block, std::size_t size) {
+    if (!block || size < kHeaderSize) return std::nullopt;
+    const std::size_t declared = word(block);
+    if (declared < kHeaderSize) return std::nullopt;
+    if (declared < size) size = declared;
+    const unsigned command = word(block + 2);
+    const std::size_t fileOffset = word(block + 12);
+    const std::string file = fileOffset >= kHeaderSize ? textAt(block, size, fileOffset) : std::string();
+
+    std::string line = "help " + scenario::quote(file);
+    switch (command) {
+    case kHelpContext: line += " context " + std::to_string(dword(block + 4)); break;
+    case kHelpContents: line += " contents"; break;
+    case kHelpOnHelp: line += " helponhelp"; break;
+    case kHelpKey:
+    case kHelpPartialKey: {
+        const std::size_t keyOffset = word(block + 14);
+        line += " key " + scenario::quote(keyOffset >= kHeaderSize ? textAt(block, size, keyOffset) : "");
+        break;
+    }
+    default: line += " command " + std::to_string(command); break;
+    }
+    return line;
+}
+
+}  // namespace kvs::standin

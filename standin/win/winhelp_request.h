@@ -1,0 +1,29 @@
+// WinHelp requests as Wine's WinHelpA delivers them: a WM_COPYDATA to the
+// window of class "MS_WINHELP", dwData 0xA1DE505, holding one block:
+//
+//   offset 0   WORD  size of the whole block
+//          2   WORD  command (HELP_CONTEXT, HELP_KEY, ...)
+//          4   LONG  data (the context number; unused when data follows)
+//          8   LONG  reserved
+//         12   WORD  offset of the file name, 0 for none
+//         14   WORD  offset of the data (a key string), valid when the
+//                    command carries a string
+//
+// Pure byte handling, so it is checked on any platform.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace kvs::standin {
+
+inline constexpr std::uintptr_t kWinHelpCopyDataTag = 0xA1DE505;
+
+// The transcript line of one request: help "FILE" context N, contents,
+// key "KEY", helponhelp, or command N for anything else. Nothing when the
+// block is too short to be a request.
+std::optional<std::string> winHelpLine(const unsigned char* block, std::size_t size);
+
+}  // namespace kvs::standin

@@ -1,0 +1,68 @@
+// Splitting the Wine driver's output into per-file transcripts, and the
+// Windows names given to Linux paths.
+#include "tools/kvsdlg/wine_backend.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using kvs::tools::splitScenarioOutput;
+
+TEST(WineBackend, SplitsACompleteRunIntoOneTranscriptPerFile) {
+    const std::string output =
+        "#scenario 1 Z:\\a\\one.scn\n"
+        "dialog \"Sort\"\n"
+        "StartDialog 72 = 1\n"
+        "#scenario 2 Z:\\a\\two.scn\n"
+        "#scenario 3 Z:\\a\\three.scn\n"
+        "AddCmd \"#scenario 9\" null\n"
+        "#end\n";
+    std::vector<std::string> transcripts;
+    std::string error;
+    ASSERT_TRUE(splitScenarioOutput(output, 3, transcripts, error)) << error;
+    ASSERT_EQ(3u, transcripts.size());
+    EXPECT_EQ("dialog \"Sort\"\nStartDialog 72 = 1\n", transcripts[0]);
+    EXPECT_EQ("", transcripts[1]);
+    EXPECT_EQ("AddCmd \"#scenario 9\" null\n", transcripts[2]);
+}
+
+TEST(WineBackend, ARunThatStoppedKeepsWhatRanAndSaysWhere) {
+    std::vector<std::string> transcripts;
+    std::string error;
+    EXPECT_FALSE(splitScenarioOutput("#scenario 1 A\nStartDialog 72 = 1\n", 2, transcripts, error));
+    EXPECT_EQ("StartDialog 72 = 1\n", transcripts[0]);
+    EXPECT_EQ("", transcripts[1]);
+    EXPECT_NE(std::string::npos, error.find("before scenario 2"));
+
+    EXPECT_FALSE(splitScenarioOutput("#scenario 1 A\nerror \"stuck\"\n", 1, transcripts, error));
+    EXPECT_EQ("error \"stuck\"\n", transcripts[0]);
+    EXPECT_NE(std::string::npos, error.find("during the last scenario"));
+
+    EXPECT_FALSE(splitScenarioOutput("", 1, transcripts, error));
+}
+
+TEST(WineBackend, RefusesSectionsOfFilesItDidNotAskFor) {
+    std::vector<std::string> transcripts;
+    std::string error;
+    EXPECT_FALSE(splitScenarioOutput("#scenario 2 B\n#end\n", 1, transcripts, error));
+    EXPECT_FALSE(splitScenarioOutput("#scenario 0 B\n#end\n", 1, transcripts, error));
+    EXPECT_TRUE(splitScenarioOutput("#end\n", 0, transcripts, error));
+}
+
+TEST(WineBackend, LinuxPathsAreNamedOnDriveZ) {
+    EXPECT_EQ("Z:\\work\\main\\tests\\scenarios\\sort.scn",
+              kvs::tools::windowsPath("/work/main/tests/scenarios/sort.scn"));
+    EXPECT_EQ("Z:\\tmp\\kvsdlg-wine-AbC123", kvs::tools::windowsPath("/tmp/kvsdlg-wine-AbC123"));
+}
+
+TEST(WineBackend, WithoutARunnerItFailsWithAReason) {
+    setenv("KVS_WINE_SCRIPT", "/nonexistent/korvan.sh", 1);
+    std::vector<std::string> transcripts;
+    std::string error;
+    EXPECT_NE(0, kvs::tools::runUnderWine({"a.scn"}, transcripts, error));
+    EXPECT_EQ(1u, transcripts.size());
+    EXPECT_FALSE(error.empty());
+    unsetenv("KVS_WINE_SCRIPT");
+}
+
+}  // namespace

@@ -1,0 +1,51 @@
+# Sourced by the Wine scripts: the prefix inside the build tree, made once and
+# cached, and quiet Wine.
+#
+#   KVS_WINE_DIR   folder with KORVAN.exe and the DLLs (default build/x86_64/wine)
+#   WINEPREFIX     the Wine prefix (default build/wine-prefix)
+
+kvs_root="$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)"
+export KVS_WINE_DIR="${KVS_WINE_DIR:-$kvs_root/build/x86_64/wine}"
+export WINEPREFIX="${WINEPREFIX:-$kvs_root/build/wine-prefix}"
+export WINEDEBUG="${WINEDEBUG:--all}"
+# No Mono or Gecko installer prompts while the prefix is made.
+export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=}"
+
+# Re-runs the calling script under Xvfb when there is no display.
+kvs_need_display() {
+  if [ -z "${DISPLAY:-}" ]; then
+    command -v xvfb-run >/dev/null || { echo "wine: no DISPLAY and no xvfb-run" >&2; exit 2; }
+    export KVS_XVFB=1
+    exec xvfb-run -a -s "-screen 0 1024x768x24" "$@"
+  fi
+}
+
+# The Wine launcher; Debian's wrapper script warns about wine32 on every call.
+kvs_wine() {
+  if [ -x /usr/lib/wine/wine64 ]; then /usr/lib/wine/wine64 "$@"; else wine "$@"; fi
+}
+
+# Makes the prefix once: wineboot, no window manager wait (Xvfb has none:
+# without Managed=N every window close waits about 2 s for one), and C:\TEMP
+# for the file dialogs.
+kvs_wine_prefix() {
+  mkdir -p "$(dirname "$WINEPREFIX")"
+  (
+    flock 9
+    if [ ! -f "$WINEPREFIX/.kvs-ready" ]; then
+      echo "wine: making the prefix $WINEPREFIX" >&2
+      wineboot -i >/dev/null 2>&1
+      kvs_wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+      wineserver -w
+      mkdir -p "$WINEPREFIX/drive_c/TEMP"
+      touch "$WINEPREFIX/.kvs-ready"
+    fi
+  ) 9>"$WINEPREFIX.lock"
+}
+
+# Scenarios answer file dialogs with paths under C:\TEMP: nothing may be there
+# already, or a save dialog asks whether to replace it.
+kvs_clean_temp() {
+  mkdir -p "$WINEPREFIX/drive_c/TEMP"
+  find "$WINEPREFIX/drive_c/TEMP" -mindepth 1 -delete
+}

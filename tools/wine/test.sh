@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# The checks that need Wine: the driver's own tests (standin_win_test.exe)
+# and every scenario against the real kvs_dlg.dll, compared with its .out.
+# Build x86_64 and native first (scripts/build.sh); KVSDLG names another
+# kvsdlg. Skips, successfully, on a machine without Wine.
+set -euo pipefail
+. "$(dirname "$0")/env.sh"
+if ! command -v wine >/dev/null; then
+  echo "SKIP wine tests: wine is not installed"
+  exit 0
+fi
+kvs_need_display "$0" "$@"
+kvs_wine_prefix
+kvs_clean_temp
+
+status=0
+echo "== driver checks under Wine"
+kvs_wine "$KVS_WINE_DIR/standin_win_test.exe" || status=1
+echo "== scenarios under Wine"
+"${KVSDLG:-$kvs_root/build/native/tools/kvsdlg}" check --backend=wine "$kvs_root"/tests/scenarios/*.scn || status=1
+exit $status

@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Opens every dialog of the library once under Wine (Xvfb when there is no
+# display) and writes one PNG screenshot per dialog, ID-TEMPLATE.png, with
+# the transcript of the tour in tour.txt.
+#
+#   tools/wine/tour.sh [OUTPUT_FOLDER]     (default build/tour)
+set -euo pipefail
+. "$(dirname "$0")/env.sh"
+out="${1:-$kvs_root/build/tour}"
+mkdir -p "$out"
+out="$(cd "$out" && pwd)"
+kvs_need_display "$0" "$out"
+[ -f "$KVS_WINE_DIR/KORVAN.exe" ] || { echo "tour: no $KVS_WINE_DIR/KORVAN.exe (run scripts/build.sh x86_64)" >&2; exit 2; }
+kvs_wine_prefix
+kvs_clean_temp
+rm -f "$out"/*.bmp "$out"/*.png "$out/tour.txt"
+kvs_wine "$KVS_WINE_DIR/KORVAN.exe" --tour "Z:${out//\//\\}"
+
+# The first convert on PATH may not be ImageMagick's.
+convert_cmd="$(command -v convert-im6.q16 || command -v convert)"
+shopt -s nullglob
+for bitmap in "$out"/*.bmp; do
+  "$convert_cmd" "$bitmap" "${bitmap%.bmp}.png"
+  rm -f "$bitmap"
+done
+count=$(find "$out" -name '*.png' | wc -l)
+echo "tour: $count screenshots and the transcript in $out"
