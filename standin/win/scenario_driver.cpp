@@ -2,8 +2,6 @@
 
 #include <array>
 #include <cstdio>
-#include <fstream>
-#include <sstream>
 
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
@@ -13,6 +11,7 @@
 #include "standin/win/owner_window.h"
 #include "standin/win/window_backend.h"
 #include "standin/win/window_watch.h"
+#include "tools/scenario/text_file.h"
 #include "tools/scenario/transcript.h"
 
 namespace kvs::standin {
@@ -34,15 +33,6 @@ std::string currentFolder() {
     std::array<char, MAX_PATH> buffer{};
     const DWORD length = GetCurrentDirectoryA(static_cast<DWORD>(buffer.size()), buffer.data());
     return length > 0 && length < buffer.size() ? std::string(buffer.data(), length) : std::string();
-}
-
-bool readFile(const std::string& path, std::string& text) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return false;
-    std::ostringstream buffer;
-    buffer << in.rdbuf();
-    text = buffer.str();
-    return true;
 }
 
 class ScenarioRun {
@@ -112,8 +102,8 @@ void ScenarioRun::onTick(HWND top) {
 
 bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
     emit("#scenario " + std::to_string(number) + " " + path);
-    std::string source;
-    if (!readFile(path, source)) {
+    const std::optional<std::string> source = scenario::readTextFile(path);
+    if (!source) {
         emit("error " + scenario::quote("cannot read " + path));
         return false;
     }
@@ -134,7 +124,7 @@ bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
     lastTick_ = GetTickCount();
     waitingSince_ = 0;
 
-    engine_.load(source);
+    engine_.load(*source);
     while (engine_.step()) {
     }
 

@@ -3,20 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
+
+#include "tools/scenario/text_file.h"
 
 namespace kvs::headless {
 namespace {
 
+// The resource scripts as they are on disk.
 ResourceFiles resourceDir() {
     ResourceFiles files;
-    for (const auto& entry : std::filesystem::directory_iterator(KVS_RESOURCE_DIR)) {
-        std::ifstream in(entry.path(), std::ios::binary);
-        std::ostringstream text;
-        text << in.rdbuf();
-        files[entry.path().filename().string()] = text.str();
-    }
+    for (const auto& entry : std::filesystem::directory_iterator(KVS_RESOURCE_DIR))
+        files[entry.path().filename().string()] = kvs::scenario::readTextFile(entry.path().string()).value_or("");
     return files;
 }
 

@@ -1,11 +1,10 @@
 #include "headless/rc_template.h"
+#include "tools/scenario/text_file.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 #include <stdexcept>
 
 namespace kvs::headless {
@@ -15,14 +14,11 @@ constexpr std::uint32_t kWsChild = 0x40000000u, kWsVisible = 0x10000000u, kWsDis
                         kWsCaption = 0x00C00000u, kWsBorder = 0x00800000u, kWsVScroll = 0x00200000u,
                         kWsGroup = 0x00020000u, kWsTabStop = 0x00010000u;
 
+// The resource scripts as they are on disk.
 ResourceFiles resourceDir() {
     ResourceFiles files;
-    for (const auto& entry : std::filesystem::directory_iterator(KVS_RESOURCE_DIR)) {
-        std::ifstream in(entry.path(), std::ios::binary);
-        std::ostringstream text;
-        text << in.rdbuf();
-        files[entry.path().filename().string()] = text.str();
-    }
+    for (const auto& entry : std::filesystem::directory_iterator(KVS_RESOURCE_DIR))
+        files[entry.path().filename().string()] = kvs::scenario::readTextFile(entry.path().string()).value_or("");
     return files;
 }
 

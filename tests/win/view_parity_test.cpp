@@ -2,22 +2,15 @@
 // checks on real windows, so the two backends cannot drift apart unseen.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
 #include "tests/win/view_checks.h"
+#include "tools/scenario/text_file.h"
 
 namespace kvs::headless {
 namespace {
 
-std::string readFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
+std::string readFile(const std::string& path) { return scenario::readTextFile(path).value_or(""); }
 
 TEST(ViewParity, HeadlessDialogBehavesAsTheWin32Controls) {
     ResourceFiles files;

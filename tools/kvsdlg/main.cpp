@@ -16,21 +16,13 @@
 #include "headless/embedded_resources.h"
 #include "headless/headless_backend.h"
 #include "tools/kvsdlg/wine_backend.h"
+#include "tools/scenario/text_file.h"
 
 namespace {
 
 int usage() {
     std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] FILE.scn...\n";
     return 2;
-}
-
-bool readFile(const std::string& path, std::string& text) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return false;
-    std::ostringstream buffer;
-    buffer << in.rdbuf();
-    text = buffer.str();
-    return true;
 }
 
 std::string expectedPath(const std::string& scenario) {
@@ -92,13 +84,13 @@ int main(int argc, char** argv) {
     int passed = 0, failed = 0;
     for (std::size_t i = 0; i < files.size(); ++i) {
         const std::string& file = files[i];
-        std::string source;
-        if (!readFile(file, source)) {
+        const std::optional<std::string> source = kvs::scenario::readTextFile(file);
+        if (!source) {
             std::cerr << "kvsdlg: cannot read " << file << '\n';
             ++failed;
             continue;
         }
-        const std::string transcript = wine ? wineTranscripts[i] : runner.run(source);
+        const std::string transcript = wine ? wineTranscripts[i] : runner.run(*source);
         if (command == "run") {
             std::cout << transcript;
             continue;
@@ -108,12 +100,12 @@ int main(int argc, char** argv) {
             std::ofstream(outPath, std::ios::binary) << transcript;
             continue;
         }
-        std::string expected;
-        if (!readFile(outPath, expected)) {
+        const std::optional<std::string> expected = kvs::scenario::readTextFile(outPath);
+        if (!expected) {
             std::cout << "FAIL " << file << ": no " << outPath << '\n';
             ++failed;
-        } else if (expected != transcript) {
-            std::cout << "FAIL " << file << ": " << firstDifference(expected, transcript) << '\n';
+        } else if (*expected != transcript) {
+            std::cout << "FAIL " << file << ": " << firstDifference(*expected, transcript) << '\n';
             ++failed;
         } else {
             ++passed;
