@@ -18,16 +18,16 @@ constexpr std::uint16_t kFourListIds[] = {101, 102, 103, 106, 108, 109, 111, 113
 
 }  // namespace
 
-GenericDialog::GenericDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner)
-    : row_(row), descriptor_(descriptor), owner_(owner), commandId_(row.id),
+GenericDialog::GenericDialog(const DispatchRow& row, Descriptor& descriptor)
+    : row_(row), descriptor_(descriptor), commandId_(row.id),
       behaviour_(familyBehaviour(row.id)) {}
 
 bool GenericDialog::fourLists() const {
     return std::find(std::begin(kFourListIds), std::end(kFourListIds), commandId_) != std::end(kFourListIds);
 }
 
-VariableCatalogue& GenericDialog::catalogue(int sourceList) {
-    return sourceList == IDC_SOURCE2 ? secondCatalogue_ : sourceCatalogue_;
+const VariableCatalogue& GenericDialog::catalogueOf(const DialogView& view, const Target& target) const {
+    return target.listId == IDC_TARGET2 && view.has(IDC_SOURCE2) ? secondCatalogue_ : sourceCatalogue_;
 }
 
 int GenericDialog::targetCapacity(int listId) const {
@@ -86,9 +86,7 @@ int GenericDialog::onInit(DialogView& view) {
             const bool skip = target.listId == IDC_TARGET1 && commandId_ == 289;
             if (skip || target.capacity <= 0 || target.array->entries.empty() || target.array->entries[0] == -1)
                 continue;
-            const VariableCatalogue& names =
-                target.listId == IDC_TARGET2 && view.has(IDC_SOURCE2) ? secondCatalogue_ : sourceCatalogue_;
-            restoreSelection(view, target.array->entries, target.capacity, target.listId, names);
+            restoreSelection(view, target.array->entries, target.capacity, target.listId, catalogueOf(view, target));
         }
     }
     // While the dialog runs the arrays are empty; OK rebuilds them from the
@@ -123,11 +121,8 @@ void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
     case IDC_CONTINUE:
         if (notifyCode != kButtonClicked) return;
         if (!behaviour_ || !behaviour_->command(context, controlId, notifyCode)) return;
-        for (Target& target : targets_) {
-            const VariableCatalogue& names =
-                target.listId == IDC_TARGET2 && view.has(IDC_SOURCE2) ? secondCatalogue_ : sourceCatalogue_;
-            storeSelection(view, target.listId, target.capacity, names, target.array->entries);
-        }
+        for (Target& target : targets_)
+            storeSelection(view, target.listId, target.capacity, catalogueOf(view, target), target.array->entries);
         close(view, controlId);
         return;
     default:

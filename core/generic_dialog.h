@@ -17,20 +17,13 @@ namespace kvs {
 
 class GenericDialog : public DialogHandler {
 public:
-    GenericDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner);
+    GenericDialog(const DispatchRow& row, Descriptor& descriptor);
 
     int onInit(DialogView& view) override;
     void onCommand(DialogView& view, int controlId, int notifyCode) override;
     void onSysCommand(DialogView& view, int code) override;
 
     std::uint16_t commandId() const { return commandId_; }
-    const DispatchRow& row() const { return row_; }
-    Descriptor& descriptor() { return descriptor_; }
-    WindowRef owner() const { return owner_; }
-    VariableCatalogue& catalogue(int sourceList);
-    // Capacity of a target list in this dialog; 0 when the list is not used.
-    int targetCapacity(int listId) const;
-    bool fourLists() const;
 
 private:
     struct Target {
@@ -40,6 +33,12 @@ private:
         std::vector<std::int32_t> backup;
     };
 
+    // Capacity of a target list in this dialog; 0 when the list is not used.
+    int targetCapacity(int listId) const;
+    bool fourLists() const;
+    // The names a target list's entries index: list 11 takes its names from
+    // the second source list when the dialog has one.
+    const VariableCatalogue& catalogueOf(const DialogView& view, const Target& target) const;
     void prepareTargets(DialogView& view);
     void close(DialogView& view, int result);
     void help(DialogView& view);
@@ -47,7 +46,6 @@ private:
 
     const DispatchRow& row_;
     Descriptor& descriptor_;
-    WindowRef owner_;
     std::uint16_t commandId_;
     DialogBehaviour* behaviour_;
     std::vector<Target> targets_;

@@ -61,7 +61,7 @@ int launchDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner
         return 0;
     }
     DialogUpGuard up(lib.dialogUp);
-    GenericDialog dialog(row, descriptor, owner);
+    GenericDialog dialog(row, descriptor);
     const int result = ui().runModal(owner, row.templateName, dialog);
     if (result == -1) {
         showStop(owner, text::kCannotCreate);

@@ -44,6 +44,33 @@ void removeSelected(DialogView& view, const ListTransferRow& row) {
     for (int index : picked) view.listDelete(row.targetList, index);
 }
 
+bool isTransferControl(int id) {
+    for (const ListTransferRow& row : kListTransfers)
+        if (id == row.addButton || id == row.removeButton || id == row.targetList || id == row.sources[0] ||
+            id == row.sources[1])
+            return true;
+    return false;
+}
+
+// Carries out an Add, a Remove or a double-click; a selection change needs
+// nothing but the buttons brought up to date.
+void transfer(DialogView& view, int controlId, int notifyCode, const TargetCapacity& capacity, ListInsert how) {
+    const bool click = notifyCode == kButtonClicked;
+    const bool doubleClick = notifyCode == kListDblClick;
+    for (const ListTransferRow& row : kListTransfers) {
+        if (!isUsed(view, row, capacity)) continue;
+        // A double-click in a source list adds to the first list it serves.
+        if ((controlId == row.addButton && click) || (controlId == sourceListOf(view, row) && doubleClick)) {
+            addSelected(view, row, capacity(row.targetList), how);
+            return;
+        }
+        if ((controlId == row.removeButton && click) || (controlId == row.targetList && doubleClick)) {
+            removeSelected(view, row);
+            return;
+        }
+    }
+}
+
 }  // namespace
 
 int sourceListOf(const DialogView& view, const ListTransferRow& row) {
@@ -60,34 +87,10 @@ void updateTransferButtons(DialogView& view, const TargetCapacity& capacity) {
 
 bool handleListTransfer(DialogView& view, int controlId, int notifyCode, const TargetCapacity& capacity,
                         ListInsert how) {
-    bool handled = false;
-    for (const ListTransferRow& row : kListTransfers) {
-        if (!isUsed(view, row, capacity)) continue;
-        const int source = sourceListOf(view, row);
-        if (controlId == row.addButton && notifyCode == kButtonClicked) {
-            addSelected(view, row, capacity(row.targetList), how);
-        } else if (controlId == row.removeButton && notifyCode == kButtonClicked) {
-            removeSelected(view, row);
-        } else if (controlId == row.targetList && notifyCode == kListDblClick) {
-            removeSelected(view, row);
-        } else if (controlId == source && notifyCode == kListDblClick) {
-            // A double-click in a source list adds to the first list it serves.
-            addSelected(view, row, capacity(row.targetList), how);
-        } else if (controlId != source && controlId != row.targetList) {
-            continue;
-        }
-        handled = true;
-        break;
-    }
-    if (!handled) {
-        // A source or target list of a row this dialog does not use.
-        for (const ListTransferRow& row : kListTransfers)
-            if (controlId == row.targetList || controlId == row.sources[0] || controlId == row.sources[1] ||
-                controlId == row.addButton || controlId == row.removeButton)
-                handled = true;
-    }
-    if (handled) updateTransferButtons(view, capacity);
-    return handled;
+    if (!isTransferControl(controlId)) return false;
+    transfer(view, controlId, notifyCode, capacity, how);
+    updateTransferButtons(view, capacity);
+    return true;
 }
 
 }  // namespace kvs

@@ -29,6 +29,7 @@ inline constexpr int kListSelChange = 1;   // LBN_SELCHANGE
 inline constexpr int kListDblClick = 2;    // LBN_DBLCLK
 inline constexpr int kEditChange = 0x300;  // EN_CHANGE
 inline constexpr int kComboSelChange = 1;  // CBN_SELCHANGE
+inline constexpr int kComboEditChange = 5; // CBN_EDITCHANGE
 
 // The controls of one open dialog, addressed by control id. Operations on an
 // id the dialog does not have do nothing and read as empty.

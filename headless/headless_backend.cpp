@@ -1,7 +1,5 @@
 #include "headless/headless_backend.h"
 
-#include <set>
-
 #include "core/lifecycle.h"
 #include "include/kvs_dlg.h"
 #include "standin/host_state.h"
@@ -20,7 +18,6 @@ namespace {
 // The owner window StartDialog is given; its title is the backend's to say.
 const auto kOwner = reinterpret_cast<KvsWindow>(static_cast<std::uintptr_t>(0x10010));
 
-constexpr int kComboEditChange = 5;  // CBN_EDITCHANGE
 
 scenario::ControlKind kindOf(ControlKind kind) {
     switch (kind) {
@@ -39,15 +36,6 @@ void HeadlessBackend::setVariables(const std::vector<std::string>& names) {
     KernelState::instance().setVariables(names);
 }
 
-void HeadlessBackend::setFile(const std::string& path, const std::vector<std::string>& names) {
-    HostState::instance().setFile(path, names);
-}
-
-void HeadlessBackend::setActiveModules(const std::vector<std::string>& modules) {
-    HostState::instance().setActiveModules(std::set<std::string>(modules.begin(), modules.end()));
-}
-
-void HeadlessBackend::setMatrix(bool matrix) { HostState::instance().matrix = matrix; }
 void HeadlessBackend::setOwnerTitle(const std::string& title) { ui_.setOwnerTitle(title); }
 void HeadlessBackend::failAllocation(int nth) { KernelState::instance().failAllocation(nth); }
 long HeadlessBackend::liveAllocations() { return static_cast<long>(KernelState::instance().liveBlocks()); }

@@ -6,18 +6,16 @@
 #include <string_view>
 
 #include "headless/headless_ui.h"
+#include "standin/standin_backend.h"
 #include "tools/scenario/engine.h"
 
 namespace kvs::headless {
 
-class HeadlessBackend : public scenario::Backend {
+class HeadlessBackend : public standin::StandinBackend {
 public:
     explicit HeadlessBackend(HeadlessUi& ui) : ui_(ui) {}
 
     void setVariables(const std::vector<std::string>& names) override;
-    void setFile(const std::string& path, const std::vector<std::string>& names) override;
-    void setActiveModules(const std::vector<std::string>& modules) override;
-    void setMatrix(bool matrix) override;
     void setOwnerTitle(const std::string& title) override;
     void failAllocation(int nth) override;
     long liveAllocations() override;

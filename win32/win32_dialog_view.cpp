@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "win32/control_reading.h"
+
 namespace kvs::win32 {
 
 namespace {
@@ -52,18 +54,6 @@ bool multiSelect(HWND list) { return (styleOf(list) & (LBS_MULTIPLESEL | LBS_EXT
 
 bool dropList(HWND combo) { return (styleOf(combo) & 0x3) == CBS_DROPDOWNLIST; }
 
-bool canCheck(HWND button) {
-    switch (styleOf(button) & BS_TYPEMASK) {
-    case BS_CHECKBOX:
-    case BS_AUTOCHECKBOX:
-    case BS_RADIOBUTTON:
-    case BS_3STATE:
-    case BS_AUTO3STATE:
-    case BS_AUTORADIOBUTTON: return true;
-    default: return false;
-    }
-}
-
 bool validIndex(HWND list, UINT countMessage, int index) {
     const LRESULT count = send(list, countMessage);
     return index >= 0 && count > 0 && index < count;
@@ -73,15 +63,6 @@ bool validIndex(HWND list, UINT countMessage, int index) {
 std::string cString(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
 
 LPARAM textArgument(const std::string& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
-
-std::string windowText(HWND window) {
-    const int length = GetWindowTextLengthA(window);
-    if (length <= 0) return {};
-    std::string buffer(static_cast<std::size_t>(length) + 1, '\0');
-    const int copied = GetWindowTextA(window, buffer.data(), length + 1);
-    buffer.resize(static_cast<std::size_t>(std::clamp(copied, 0, length)));
-    return buffer;
-}
 
 }  // namespace
 
@@ -120,12 +101,12 @@ void Win32DialogView::enable(int id, bool on) {
 
 bool Win32DialogView::isChecked(int id) const {
     HWND button = find(dialog_, id, Kind::Button);
-    return button && canCheck(button) && send(button, BM_GETCHECK) == BST_CHECKED;
+    return button && isCheckableButton(button) && send(button, BM_GETCHECK) == BST_CHECKED;
 }
 
 void Win32DialogView::setChecked(int id, bool on) {
     HWND button = find(dialog_, id, Kind::Button);
-    if (!button || !canCheck(button)) return;
+    if (!button || !isCheckableButton(button)) return;
     ChangingControls changing;
     send(button, BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED);
 }
@@ -149,15 +130,7 @@ int Win32DialogView::listCount(int id) const {
 }
 
 std::string Win32DialogView::listText(int id, int index) const {
-    HWND list = find(dialog_, id, Kind::ListBox);
-    if (!list || index < 0) return {};
-    const LRESULT length = send(list, LB_GETTEXTLEN, static_cast<WPARAM>(index));
-    if (length <= 0) return {};
-    std::string buffer(static_cast<std::size_t>(length) + 1, '\0');
-    const LRESULT copied =
-        send(list, LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
-    buffer.resize(static_cast<std::size_t>(std::clamp<LRESULT>(copied, 0, length)));
-    return buffer;
+    return itemText(find(dialog_, id, Kind::ListBox), LB_GETTEXTLEN, LB_GETTEXT, index);
 }
 
 // LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.

@@ -1,10 +1,10 @@
 #include "standin/win/control_probe.h"
 
 #include <array>
-#include <vector>
 
 #include "standin/win/label_text.h"
 #include "standin/win/window_roles.h"
+#include "win32/control_reading.h"
 
 namespace kvs::standin {
 
@@ -20,26 +20,7 @@ bool isGroupBox(HWND control) {
 }
 
 bool isCheckable(HWND control) {
-    if (controlKind(control) != ControlKind::Button) return false;
-    switch (buttonType(control)) {
-    case BS_CHECKBOX:
-    case BS_AUTOCHECKBOX:
-    case BS_3STATE:
-    case BS_AUTO3STATE:
-    case BS_RADIOBUTTON:
-    case BS_AUTORADIOBUTTON: return true;
-    default: return false;
-    }
-}
-
-// An item's text, or empty when the index is out of range.
-std::string itemText(HWND control, UINT lengthMessage, UINT textMessage, int index) {
-    const LRESULT length = SendMessageA(control, lengthMessage, static_cast<WPARAM>(index), 0);
-    if (length < 0) return {};
-    std::vector<char> buffer(static_cast<std::size_t>(length) + 1, '\0');
-    const LRESULT copied =
-        SendMessageA(control, textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
-    return copied < 0 ? std::string() : std::string(buffer.data(), static_cast<std::size_t>(copied));
+    return controlKind(control) == ControlKind::Button && win32::isCheckableButton(control);
 }
 
 }  // namespace
@@ -72,10 +53,10 @@ scenario::ControlInfo describeControl(HWND control) {
     info.text = windowText(control);
     if (info.kind == ControlKind::ListBox) {
         const auto count = static_cast<int>(SendMessageA(control, LB_GETCOUNT, 0, 0));
-        for (int i = 0; i < count; ++i) info.items.push_back(itemText(control, LB_GETTEXTLEN, LB_GETTEXT, i));
+        for (int i = 0; i < count; ++i) info.items.push_back(win32::itemText(control, LB_GETTEXTLEN, LB_GETTEXT, i));
     } else if (info.kind == ControlKind::ComboBox) {
         const auto count = static_cast<int>(SendMessageA(control, CB_GETCOUNT, 0, 0));
-        for (int i = 0; i < count; ++i) info.items.push_back(itemText(control, CB_GETLBTEXTLEN, CB_GETLBTEXT, i));
+        for (int i = 0; i < count; ++i) info.items.push_back(win32::itemText(control, CB_GETLBTEXTLEN, CB_GETLBTEXT, i));
         info.comboSelection = static_cast<int>(SendMessageA(control, CB_GETCURSEL, 0, 0));
     }
     return info;

@@ -1,8 +1,5 @@
 #include "standin/win/window_backend.h"
 
-#include <set>
-
-#include "standin/host_state.h"
 #include "standin/kernel_state.h"
 #include "standin/win/control_probe.h"
 #include "standin/win/kernel_control.h"
@@ -22,15 +19,6 @@ void WindowBackend::setVariables(const std::vector<std::string>& names) {
     KernelState::instance().setVariables(names);
 }
 
-void WindowBackend::setFile(const std::string& path, const std::vector<std::string>& names) {
-    HostState::instance().setFile(path, names);
-}
-
-void WindowBackend::setActiveModules(const std::vector<std::string>& modules) {
-    HostState::instance().setActiveModules(std::set<std::string>(modules.begin(), modules.end()));
-}
-
-void WindowBackend::setMatrix(bool matrix) { HostState::instance().matrix = matrix; }
 void WindowBackend::setOwnerTitle(const std::string& title) { SetWindowTextA(owner_, title.c_str()); }
 void WindowBackend::failAllocation(int nth) { KvsStandinFailAllocation(nth); }
 long WindowBackend::liveAllocations() { return KvsStandinLiveBlocks(); }

@@ -7,18 +7,15 @@
 #include <windows.h>
 
 #include "standin/win/library.h"
-#include "tools/scenario/engine.h"
+#include "standin/standin_backend.h"
 
 namespace kvs::standin {
 
-class WindowBackend : public scenario::Backend {
+class WindowBackend : public StandinBackend {
 public:
     WindowBackend(const Library& library, HWND owner) : library_(library), owner_(owner) {}
 
     void setVariables(const std::vector<std::string>& names) override;
-    void setFile(const std::string& path, const std::vector<std::string>& names) override;
-    void setActiveModules(const std::vector<std::string>& modules) override;
-    void setMatrix(bool matrix) override;
     void setOwnerTitle(const std::string& title) override;
     void failAllocation(int nth) override;
     long liveAllocations() override;

@@ -50,15 +50,6 @@ HWND topDialogWindow() {
     return found;
 }
 
-std::string windowText(HWND window) {
-    const int length = window ? GetWindowTextLengthA(window) : 0;
-    if (length <= 0) return {};
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    const int copied = GetWindowTextA(window, text.data(), length + 1);
-    text.resize(copied > 0 ? static_cast<std::size_t>(copied) : 0);
-    return text;
-}
-
 std::string messageText(HWND box) { return windowText(GetDlgItem(box, kMessageTextId)); }
 
 const char* messageIcon(HWND box) {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "tools/scenario/engine.h"
+#include "win32/control_reading.h"
 
 namespace kvs::standin {
 
@@ -31,7 +32,7 @@ scenario::WindowKind roleOf(HWND window, HMODULE library);
 // disables its owner, so this is the window a user could act on.
 HWND topDialogWindow();
 
-std::string windowText(HWND window);
+using win32::windowText;
 
 // A message box's text and its icon as a transcript word: stop,
 // exclamation, question, info or none.

@@ -150,7 +150,7 @@ TEST_F(StartDialogTest, ResetAllEmptiesTargetsAndRestoresTheFirstState) {
     kvs::Descriptor* sort = kvs::descriptorFor(72);
     ui.dialog = [&](std::string_view name) {
         kvs::headless::HeadlessDialog view(*resources.dialog(name));
-        kvs::GenericDialog dialog(*kvs::findDispatchRow(72), *sort, 0);
+        kvs::GenericDialog dialog(*kvs::findDispatchRow(72), *sort);
         dialog.onInit(view);
         view.listAdd(10, "A", kvs::ListInsert::Append);
         view.click(32);
