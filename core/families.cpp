@@ -16,6 +16,8 @@ DialogBehaviour* familyBehaviour(std::uint16_t commandId) {
 
 void resetFamilyDefaults() { data::resetDefaults(); }
 
+void resetFamiliesForLoad() { data::resetOptionDialogs(); }
+
 bool runSpecialCommand(std::uint16_t commandId) {
     switch (commandId) {
     case 242:

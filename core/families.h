@@ -26,6 +26,10 @@ DialogBehaviour* familyBehaviour(std::uint16_t commandId);
 // Every family's remembered options back to their defaults.
 void resetFamilyDefaults();
 
+// What lasts from load to unload whatever ReinitDialogs does, back to its
+// state at load.
+void resetFamiliesForLoad();
+
 // Routines behind the ids that show no variable dialog; false when the id
 // has none yet.
 bool runSpecialCommand(std::uint16_t commandId);
@@ -34,6 +38,7 @@ namespace data {
 DescriptorSettings descriptorSettings(std::uint16_t commandId);
 DialogBehaviour* behaviour(std::uint16_t commandId);
 void resetDefaults();
+void resetOptionDialogs();
 }  // namespace data
 
 }  // namespace kvs

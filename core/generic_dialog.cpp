@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/families.h"
+#include "core/help_requests.h"
 #include "core/library_state.h"
 #include "core/list_transfer.h"
 #include "core/messages.h"
@@ -146,14 +147,7 @@ void GenericDialog::close(DialogView& view, int result) {
     view.end(result);
 }
 
-void GenericDialog::help(DialogView& view) {
-    HelpRequest request;
-    request.owner = view.handle();
-    request.file = library().helpPath;
-    request.kind = HelpKind::Context;
-    request.context = commandId_;
-    ui().help(request);
-}
+void GenericDialog::help(DialogView& view) { openHelpTopic(view.handle(), commandId_); }
 
 void GenericDialog::resetAll(DialogView& view) {
     for (const Target& target : targets_) view.listClear(target.listId);
@@ -164,29 +158,6 @@ void GenericDialog::resetAll(DialogView& view) {
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
 }
 
-void GenericDialog::onSysCommand(DialogView&, int code) {
-    const LibraryState& lib = library();
-    HelpRequest request;
-    request.owner = lib.hostWindow;
-    request.file = lib.helpPath;
-    switch (code) {
-    case IDM_HELP_CONTENTS: request.kind = HelpKind::Contents; break;
-    case IDM_HELP_SEARCH:
-        request.kind = HelpKind::Key;
-        request.key = std::string(text::kHelpSearchKey);
-        break;
-    case IDM_HELP_ON_HELP:
-        request.kind = HelpKind::HelpOnHelp;
-        request.file = std::string(text::kHelpOnHelpFile);
-        break;
-    case IDM_HELP_CONTEXT:
-        if (lib.helpContext == 0) return;
-        request.kind = HelpKind::Context;
-        request.context = lib.helpContext;
-        break;
-    default: return;
-    }
-    ui().help(request);
-}
+void GenericDialog::onSysCommand(DialogView&, int code) { answerHelpCommand(code); }
 
 }  // namespace kvs

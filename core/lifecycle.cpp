@@ -2,6 +2,7 @@
 
 #include "core/command_queue.h"
 #include "core/descriptor.h"
+#include "core/families.h"
 #include "core/file_choosers.h"
 #include "core/file_filters.h"
 #include "core/library_state.h"
@@ -12,6 +13,7 @@ namespace kvs {
 void onLibraryLoad() {
     library() = LibraryState{};
     resetDescriptorsForLoad();
+    resetFamiliesForLoad();
     ReinitDialogs(1);
     prepareFileFilters();
 }

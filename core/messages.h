@@ -17,6 +17,7 @@ inline constexpr std::string_view kCannotCreate = "Couldn't create the dialog bo
 inline constexpr std::string_view kTooManyVariables1 = "Too many variables to list! Only the first\r";
 inline constexpr std::string_view kTooManyVariables2 = " names will be used.";
 inline constexpr std::string_view kSelectVariables = "You must select variables.";
+inline constexpr std::string_view kProvideMoreInput = "You must provide more input.";
 inline constexpr std::string_view kHelpOnHelpFile = "WINHELP.HLP";
 inline constexpr std::string_view kHelpSearchKey = "keys";
 }  // namespace text

@@ -65,6 +65,8 @@ public:
     virtual int comboSelection(int id) const = 0;
     virtual void comboSelect(int id, int index) = 0;
 
+    // The dialog's own title.
+    virtual void setCaption(std::string_view text) = 0;
     // Centres the dialog on the screen.
     virtual void centre() = 0;
     // Ends the modal dialog with this result once the current message is done.

@@ -11,4 +11,14 @@ inline constexpr std::string_view kTranspose = "TRANSPOSE ";
 inline constexpr std::string_view kSaveStart = "SAVE '";
 inline constexpr std::string_view kSaveEnd = "'";
 inline constexpr std::string_view kAppendDefaultFile = "APPEND.KVD";
+
+// Save-as and import/export options.
+inline constexpr std::string_view kSaveAsOptionsTemplate = "SaveAsOpts";
+inline constexpr std::string_view kImportExportTemplate = "IDD_OPTIONSIMPORTEXPORT";
+inline constexpr std::string_view kExportOptionsCaption = "Export Options";
+inline constexpr std::string_view kSaveAsType = " / TYPE=";
+inline constexpr std::string_view kRowsClause = " ROWS=";
+inline constexpr std::string_view kColumnsClause = " COLUMNS=";
+inline constexpr std::string_view kRangeClause = " RANGE=";
+inline constexpr std::string_view kRangeSeparator = "..";
 }  // namespace kvs::data::text

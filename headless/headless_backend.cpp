@@ -4,6 +4,7 @@
 #include "include/kvs_dlg.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
+#include "tools/scenario/library_exports.h"
 
 namespace kvs::headless {
 
@@ -39,6 +40,25 @@ void HeadlessBackend::setVariables(const std::vector<std::string>& names) {
 void HeadlessBackend::setOwnerTitle(const std::string& title) { ui_.setOwnerTitle(title); }
 void HeadlessBackend::failAllocation(int nth) { KernelState::instance().failAllocation(nth); }
 long HeadlessBackend::liveAllocations() { return static_cast<long>(KernelState::instance().liveBlocks()); }
+
+const scenario::LibraryExports& HeadlessBackend::exports() {
+    static const scenario::LibraryExports linked = [] {
+        scenario::LibraryExports e;
+        e.startDialog = &StartDialog;
+        e.reinitDialogs = &ReinitDialogs;
+        e.setDlgSortList = &SetDlgSortList;
+        e.doSaveDataOptionsDlg = &DoSaveDataOptionsDlg;
+        e.doImpExpOptionsDlg = &DoImpExpOptionsDlg;
+        e.attachSaveAsOptions = &AttachSaveAsOptions;
+        e.attachImpExpOptions = &AttachImpExpOptions;
+        e.kvgFont = &lfKvgFont;
+        e.defKvgFont = &lfDefKvgFont;
+        return e;
+    }();
+    return linked;
+}
+
+KvsWindow HeadlessBackend::ownerWindow() { return kOwner; }
 
 std::int32_t HeadlessBackend::startDialog(std::uint32_t id, const std::string& helpFile) {
     return StartDialog(id, kOwner, helpFile.c_str());

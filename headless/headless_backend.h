@@ -20,6 +20,8 @@ public:
     void failAllocation(int nth) override;
     long liveAllocations() override;
 
+    const scenario::LibraryExports& exports() override;
+    KvsWindow ownerWindow() override;
     std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) override;
     void reinitDialogs(std::int32_t value) override;
     void setSortList(std::int32_t value) override;

@@ -87,6 +87,7 @@ public:
     std::optional<int> findByLabel(std::string_view label) const;
 
     const std::string& caption() const { return caption_; }
+    void setCaption(std::string_view text) override { caption_ = std::string(text); }
     const std::string& templateName() const { return templateName_; }
     const std::vector<ControlState>& controls() const { return controls_; }
     const ControlState* control(int id) const { return find(id); }

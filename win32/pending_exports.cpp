@@ -15,15 +15,6 @@ void KVS_CALL ClearSamplingDialog(void) {}
 // Not handled: the dialog manager does its default processing.
 intptr_t KVS_CALL ProcessDlgProc(KvsWindow, uint32_t, uintptr_t, intptr_t) { return FALSE; }
 
-int32_t KVS_CALL DoSaveDataOptionsDlg(KvsWindow) { return 0; }
-
-int32_t KVS_CALL DoImpExpOptionsDlg(KvsWindow, int32_t, int32_t) { return 0; }
-
-// The command line is left as it is.
-int32_t KVS_CALL AttachSaveAsOptions(char*) { return 0; }
-
-int32_t KVS_CALL AttachImpExpOptions(char*) { return 0; }
-
 int32_t KVS_CALL TRAXCallDialog(uint32_t, int32_t, const char*, int32_t, int32_t) { return 0; }
 
 // As a cancelled picker: the colour is left as it is.

@@ -257,6 +257,8 @@ void Win32DialogView::comboSelect(int id, int index) {
 // ---------------------------------------------------------------------------
 // The dialog itself
 
+void Win32DialogView::setCaption(std::string_view text) { SetWindowTextA(dialog_, cString(text).c_str()); }
+
 void Win32DialogView::centre() {
     RECT frame{};
     if (!GetWindowRect(dialog_, &frame)) return;

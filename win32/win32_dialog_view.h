@@ -40,6 +40,7 @@ public:
     int comboSelection(int id) const override;
     void comboSelect(int id, int index) override;
 
+    void setCaption(std::string_view text) override;
     void centre() override;
     void end(int result) override;
 

@@ -7,10 +7,31 @@ namespace kvs::standin {
 namespace {
 
 template <typename Fn>
-bool resolve(HMODULE module, const char* name, Fn& fn, std::string& error) {
+void find(HMODULE module, const char* name, Fn& fn) {
     fn = reinterpret_cast<Fn>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+template <typename Fn>
+bool resolve(HMODULE module, const char* name, Fn& fn, std::string& error) {
+    find(module, name, fn);
     if (!fn) error = std::string("kvs_dlg.dll does not export ") + name;
     return fn != nullptr;
+}
+
+// The exports scenarios call besides the three every host needs.
+void findOthers(HMODULE module, scenario::LibraryExports& e) {
+    find(module, "StartSamplingDialog", e.startSamplingDialog);
+    find(module, "UpdateSamplingDialog", e.updateSamplingDialog);
+    find(module, "ClearSamplingDialog", e.clearSamplingDialog);
+    find(module, "DoSaveDataOptionsDlg", e.doSaveDataOptionsDlg);
+    find(module, "DoImpExpOptionsDlg", e.doImpExpOptionsDlg);
+    find(module, "AttachSaveAsOptions", e.attachSaveAsOptions);
+    find(module, "AttachImpExpOptions", e.attachImpExpOptions);
+    find(module, "ColorPickerDialogEx", e.colorPickerDialogEx);
+    find(module, "LoadSymbolBitmapsEx", e.loadSymbolBitmapsEx);
+    find(module, "DeleteSymbolBitmapsEx", e.deleteSymbolBitmapsEx);
+    find(module, "lfKvgFont", e.kvgFont);
+    find(module, "lfDefKvgFont", e.defKvgFont);
 }
 
 }  // namespace
@@ -32,10 +53,12 @@ bool Library::load(std::string& error) {
         error = "cannot load " + path + " (error " + std::to_string(GetLastError()) + ")";
         return false;
     }
-    if (resolve(module_, "StartDialog", startDialog_, error) &&
-        resolve(module_, "ReinitDialogs", reinitDialogs_, error) &&
-        resolve(module_, "SetDlgSortList", setDlgSortList_, error))
+    if (resolve(module_, "StartDialog", exports_.startDialog, error) &&
+        resolve(module_, "ReinitDialogs", exports_.reinitDialogs, error) &&
+        resolve(module_, "SetDlgSortList", exports_.setDlgSortList, error)) {
+        findOthers(module_, exports_);
         return true;
+    }
     unload();
     return false;
 }
@@ -49,18 +72,19 @@ void Library::unload() {
     if (module_ && owned_) FreeLibrary(module_);
     module_ = nullptr;
     owned_ = false;
-    startDialog_ = nullptr;
-    reinitDialogs_ = setDlgSortList_ = nullptr;
+    exports_ = scenario::LibraryExports{};
 }
 
 std::int32_t Library::startDialog(std::uint32_t id, HWND owner, const char* helpFile) const {
-    return startDialog_ ? startDialog_(id, owner, helpFile) : 0;
+    return exports_.startDialog ? exports_.startDialog(id, owner, helpFile) : 0;
 }
 
-std::int32_t Library::reinitDialogs(std::int32_t value) const { return reinitDialogs_ ? reinitDialogs_(value) : 0; }
+std::int32_t Library::reinitDialogs(std::int32_t value) const {
+    return exports_.reinitDialogs ? exports_.reinitDialogs(value) : 0;
+}
 
 std::int32_t Library::setDlgSortList(std::int32_t value) const {
-    return setDlgSortList_ ? setDlgSortList_(value) : 0;
+    return exports_.setDlgSortList ? exports_.setDlgSortList(value) : 0;
 }
 
 }  // namespace kvs::standin

@@ -8,13 +8,12 @@
 #include <cstdint>
 #include <string>
 
+#include "tools/scenario/library_exports.h"
+
 namespace kvs::standin {
 
 class Library {
 public:
-    using StartDialogFn = std::int32_t(__stdcall*)(std::uint32_t, void*, const char*);
-    using Int32Fn = std::int32_t(__stdcall*)(std::int32_t);
-
     Library() = default;
     Library(const Library&) = delete;
     Library& operator=(const Library&) = delete;
@@ -31,6 +30,8 @@ public:
     std::int32_t startDialog(std::uint32_t id, HWND owner, const char* helpFile) const;
     std::int32_t reinitDialogs(std::int32_t value) const;
     std::int32_t setDlgSortList(std::int32_t value) const;
+    // Every export; those the DLL lacks are null.
+    const scenario::LibraryExports& exports() const { return exports_; }
 
     // The folder KORVAN.exe runs from, with a trailing backslash.
     static std::string exeFolder();
@@ -38,9 +39,7 @@ public:
 private:
     HMODULE module_ = nullptr;
     bool owned_ = false;
-    StartDialogFn startDialog_ = nullptr;
-    Int32Fn reinitDialogs_ = nullptr;
-    Int32Fn setDlgSortList_ = nullptr;
+    scenario::LibraryExports exports_;
 };
 
 }  // namespace kvs::standin

@@ -20,6 +20,8 @@ public:
     void failAllocation(int nth) override;
     long liveAllocations() override;
 
+    const scenario::LibraryExports& exports() override { return library_.exports(); }
+    KvsWindow ownerWindow() override { return owner_; }
     std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) override;
     void reinitDialogs(std::int32_t value) override;
     void setSortList(std::int32_t value) override;

@@ -1,6 +1,7 @@
 #include "tools/scenario/engine.h"
 
 #include "resources/list_transfer.h"
+#include "tools/scenario/call_statements.h"
 #include "tools/scenario/transcript.h"
 
 namespace kvs::scenario {
@@ -147,6 +148,9 @@ bool Engine::setup(const Statement& s) {
     } else if (k == "reinit") {
         const auto value = number(0);
         backend_.reinitDialogs(value ? static_cast<std::int32_t>(*value) : 1);
+    } else if (const CallStatement* call = findCallStatement(k)) {
+        CallContext context{backend_, s, emit_, [&](const std::string& message) { fail(s, message); }};
+        call->run(context);
     } else {
         return false;
     }

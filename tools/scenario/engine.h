@@ -11,9 +11,12 @@
 #include <string_view>
 #include <vector>
 
+#include "include/kvs_platform.h"
 #include "tools/scenario/scenario.h"
 
 namespace kvs::scenario {
+
+struct LibraryExports;
 
 enum class WindowKind { None, Dialog, Message, Chooser };
 enum class ControlKind { Static, Button, Edit, ListBox, ComboBox, Other };
@@ -46,6 +49,9 @@ public:
     virtual long liveAllocations() = 0;
 
     // Calls into the library.
+    virtual const LibraryExports& exports() = 0;
+    // The host window the calls give as owner.
+    virtual KvsWindow ownerWindow() = 0;
     virtual std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) = 0;
     virtual void reinitDialogs(std::int32_t value) = 0;
     virtual void setSortList(std::int32_t value) = 0;

@@ -1,0 +1,26 @@
+// The save-as and import/export option dialogs the host asks for around its
+// own Save As, Import and Export commands, and the clauses their choices add
+// to the host's command lines. The choices last as long as the library.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "core/seam.h"
+
+namespace kvs::data {
+
+// Runs "SaveAsOpts"; 1 for OK, 0 for Cancel.
+int runSaveAsOptions(WindowRef owner);
+// Appends " / TYPE=" and the chosen kind's keyword to a caller's line.
+void attachSaveAsOptions(char* line);
+
+// Runs "IDD_OPTIONSIMPORTEXPORT"; exporting retitles it and picks the export
+// help topic. 1 for OK, 0 for Cancel.
+int runImportExportOptions(WindowRef owner, std::int32_t exportFlag, std::int32_t value);
+// Appends the ROWS=, COLUMNS= and RANGE= clauses of the choices to a line
+// that may grow to kImportExportLineLimit characters.
+void attachImportExportOptions(char* line);
+inline constexpr std::size_t kImportExportLineLimit = 9999;
+
+}  // namespace kvs::data

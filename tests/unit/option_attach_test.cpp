@@ -1,0 +1,96 @@
+// The clauses the import/export options attach to a host's line, at the
+// bound of the host's buffer.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/lifecycle.h"
+#include "headless/embedded_resources.h"
+#include "headless/headless_dialog.h"
+#include "include/kvs_dlg.h"
+#include "tests/unit/fake_ui.h"
+
+namespace kvs {
+namespace {
+
+// Runs each modal dialog on an in-memory copy of its template and lets the
+// test act on it before pressing OK.
+class OptionsUi : public testing::FakeUi {
+public:
+    std::function<void(DialogView&, DialogHandler&)> act = [](DialogView&, DialogHandler&) {};
+
+    int runModal(WindowRef, std::string_view name, DialogHandler& handler) override {
+        static const headless::ResourceSet resources = [] {
+            headless::ResourceSet set;
+            set.load(headless::embeddedResources());
+            return set;
+        }();
+        const headless::DialogTemplate* found = resources.dialog(name);
+        if (!found) return -1;
+        headless::HeadlessDialog dialog(*found);
+        handler.onInit(dialog);
+        act(dialog, handler);
+        handler.onCommand(dialog, kIdOk, kButtonClicked);
+        return dialog.ended() ? dialog.result() : kIdCancel;
+    }
+};
+
+class OptionAttachTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        setUi(&ui_);
+        onLibraryLoad();
+    }
+    void TearDown() override {
+        onLibraryUnload();
+        setUi(nullptr);
+    }
+    OptionsUi ui_;
+};
+
+TEST_F(OptionAttachTest, ClausesStopAtTheLineLimit) {
+    ui_.act = [](DialogView& view, DialogHandler&) {
+        view.setChecked(31, false);
+        view.setText(32, "1");
+        view.setText(33, "100");
+        view.setText(45, "A1..C10");
+    };
+    ASSERT_EQ(DoImpExpOptionsDlg(nullptr, 0, 0), 1);
+
+    std::vector<char> line(10000, '\0');
+    std::memset(line.data(), 'X', 9990);
+    EXPECT_EQ(AttachImpExpOptions(line.data()), 1);
+    EXPECT_EQ(std::strlen(line.data()), 9999u);
+    EXPECT_EQ(std::string(line.data() + 9990), " ROWS=1..");
+
+    std::vector<char> full(10000, 'Y');
+    full[9999] = '\0';
+    AttachImpExpOptions(full.data());
+    EXPECT_EQ(std::strlen(full.data()), 9999u);
+}
+
+TEST_F(OptionAttachTest, ReinitialisingKeepsTheChoices) {
+    ui_.act = [](DialogView& view, DialogHandler&) {
+        view.setChecked(31, false);
+        view.setChecked(32, false);
+        view.setText(32, "5");
+        view.setText(33, "9");
+    };
+    ASSERT_EQ(DoImpExpOptionsDlg(nullptr, 1, 0), 1);
+    ui_.act = [](DialogView& view, DialogHandler& handler) { handler.onCommand(view, 34, kButtonClicked); };
+    ASSERT_EQ(DoSaveDataOptionsDlg(nullptr), 1);
+    ReinitDialogs(1);
+
+    char line[64] = "X";
+    AttachImpExpOptions(line);
+    EXPECT_STREQ(line, "X ROWS=5..9");
+    char save[64] = "S";
+    AttachSaveAsOptions(save);
+    EXPECT_STREQ(save, "S / TYPE=CORR");
+}
+
+}  // namespace
+}  // namespace kvs
