@@ -14,7 +14,7 @@ DialogBehaviour* familyBehaviour(std::uint16_t commandId) {
     return nullptr;
 }
 
-void resetFamilyDefaults() { data::resetDefaults(); }
+void addFamilyDefaults(DefaultsTable& table) { data::addDefaults(table); }
 
 void resetFamiliesForLoad() { data::resetOptionDialogs(); }
 

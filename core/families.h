@@ -23,8 +23,11 @@ DescriptorSettings descriptorSettings(std::uint16_t commandId);
 // procedure, or null when the id has none (OK is then refused).
 DialogBehaviour* familyBehaviour(std::uint16_t commandId);
 
-// Every family's remembered options back to their defaults.
-void resetFamilyDefaults();
+class DefaultsTable;
+
+// Adds every family's rows to the table of remembered settings' defaults,
+// family by family in a fixed order.
+void addFamilyDefaults(DefaultsTable& table);
 
 // What lasts from load to unload whatever ReinitDialogs does, back to its
 // state at load.
@@ -37,7 +40,7 @@ bool runSpecialCommand(std::uint16_t commandId);
 namespace data {
 DescriptorSettings descriptorSettings(std::uint16_t commandId);
 DialogBehaviour* behaviour(std::uint16_t commandId);
-void resetDefaults();
+void addDefaults(DefaultsTable& table);
 void resetOptionDialogs();
 }  // namespace data
 

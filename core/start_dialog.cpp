@@ -3,6 +3,7 @@
 
 #include "core/command_queue.h"
 #include "core/descriptor.h"
+#include "core/dialog_defaults.h"
 #include "core/families.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
@@ -83,7 +84,7 @@ std::int32_t reinitDialogs(std::int32_t freeFlag) {
         std::end(kKeepStateWhileRunning))
         return 1;
     resetAllSelections(freeFlag != 0);
-    resetFamilyDefaults();
+    dialogDefaults().apply(freeFlag != 0);
     return 1;
 }
 

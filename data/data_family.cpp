@@ -1,5 +1,6 @@
 // The data family's part of dispatch: which behaviour serves which id, the
 // descriptor switches, and the defaults of the remembered options.
+#include "core/dialog_defaults.h"
 #include "core/families.h"
 #include "data/sort_rank_transpose.h"
 
@@ -25,6 +26,6 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
     }
 }
 
-void resetDefaults() { resetSortDefaults(); }
+void addDefaults(DefaultsTable& table) { addSortDefaults(table); }
 
 }  // namespace kvs::data

@@ -16,8 +16,8 @@ constexpr int kMaxSortKeys = 10;
 
 // The order as last clicked (kept even when the dialog is cancelled) and as
 // confirmed by the last OK.
-int liveSortOrder = IDC_SORT_ASCENDING;
-int confirmedSortOrder = IDC_SORT_ASCENDING;
+std::int32_t liveSortOrder = IDC_SORT_ASCENDING;
+std::int32_t confirmedSortOrder = IDC_SORT_ASCENDING;
 
 bool isOk(int controlId) { return controlId == kIdOk; }
 
@@ -114,6 +114,9 @@ DialogBehaviour& transposeBehaviour() {
     return dialog;
 }
 
-void resetSortDefaults() { liveSortOrder = confirmedSortOrder = IDC_SORT_ASCENDING; }
+void addSortDefaults(DefaultsTable& table) {
+    table.word(liveSortOrder, IDC_SORT_ASCENDING);
+    table.word(confirmedSortOrder, IDC_SORT_ASCENDING);
+}
 
 }  // namespace kvs::data

@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
 
 namespace kvs::data {
 
 DialogBehaviour& sortBehaviour();
 DialogBehaviour& rankBehaviour();
 DialogBehaviour& transposeBehaviour();
-void resetSortDefaults();
+// The remembered sort order.
+void addSortDefaults(DefaultsTable& table);
 
 }  // namespace kvs::data

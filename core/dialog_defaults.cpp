@@ -1,0 +1,55 @@
+#include "core/dialog_defaults.h"
+
+#include "core/families.h"
+
+namespace kvs {
+
+void DefaultsTable::word(std::int32_t& target, std::int32_t value) {
+    rows_.push_back({Kind::Word, &target, value, {}, nullptr});
+}
+
+void DefaultsTable::text(std::string& target, std::string_view value) {
+    rows_.push_back({Kind::Text, &target, 0, std::string(value), nullptr});
+}
+
+void DefaultsTable::block(OptionBlock& target) { rows_.push_back({Kind::Block, &target, 0, {}, nullptr}); }
+
+void DefaultsTable::indexArray(IndexArray& target, std::int32_t count) {
+    rows_.push_back({Kind::IndexArray, &target, count, {}, nullptr});
+}
+
+void DefaultsTable::routine(void (*reset)(bool)) { rows_.push_back({Kind::Routine, nullptr, 0, {}, reset}); }
+
+void DefaultsTable::apply(bool freeMemory) const {
+    for (const Row& row : rows_) {
+        switch (row.kind) {
+        case Kind::Word: *static_cast<std::int32_t*>(row.target) = row.value; break;
+        case Kind::Text: *static_cast<std::string*>(row.target) = row.textValue; break;
+        case Kind::Block: {
+            // An absent or unusable block is left alone.
+            auto& block = *static_cast<OptionBlock*>(row.target);
+            if (freeMemory) block.release();
+            else block.clear();
+            break;
+        }
+        case Kind::IndexArray: {
+            auto& array = *static_cast<IndexArray*>(row.target);
+            if (freeMemory) array.release();
+            else array.clear(row.value);
+            break;
+        }
+        case Kind::Routine: row.reset(freeMemory); break;
+        }
+    }
+}
+
+const DefaultsTable& dialogDefaults() {
+    static const DefaultsTable table = [] {
+        DefaultsTable t;
+        addFamilyDefaults(t);
+        return t;
+    }();
+    return table;
+}
+
+}  // namespace kvs
