@@ -1,6 +1,7 @@
 #include "standin/win/tour.h"
 
 #include <cstdio>
+#include <functional>
 
 #include "core/dispatch_table.h"
 #include "standin/host_state.h"
@@ -36,6 +37,8 @@ private:
         std::fflush(log_);
     }
     void onTick(HWND top);
+    // Runs open, taking a picture of the first library dialog it shows.
+    void visit(const std::string& shotName, const std::function<std::string()>& open);
 
     std::string outDir_;
     std::FILE* log_;
@@ -44,22 +47,28 @@ private:
     HelpCatcher help_;
     WindowWatch watch_;
     WindowBackend backend_;
-    const DispatchRow* row_ = nullptr;
-    bool shot_ = false;
+    std::string shotName_;
+    bool shot_ = true;
     int settle_ = 0;
 };
 
 void Tour::onTick(HWND top) {
     if (!top) return;
-    if (roleOf(top, library_.module()) == scenario::WindowKind::Dialog && !shot_ && row_) {
+    if (roleOf(top, library_.module()) == scenario::WindowKind::Dialog && !shot_) {
         if (++settle_ < kSettleTicks) return;
-        std::string id = std::to_string(row_->id);
-        while (id.size() < 4) id.insert(id.begin(), '0');
-        const std::string path = outDir_ + "\\" + id + "-" + row_->templateName + ".bmp";
+        const std::string path = outDir_ + "\\" + shotName_ + ".bmp";
         if (!saveWindowBitmap(top, path)) emit("error " + scenario::quote("cannot save " + path));
         shot_ = true;
     }
     backend_.dismissTop();
+}
+
+void Tour::visit(const std::string& shotName, const std::function<std::string()>& open) {
+    shotName_ = shotName;
+    shot_ = false;
+    settle_ = 0;
+    emit(open());
+    shot_ = true;
 }
 
 int Tour::run() {
@@ -76,12 +85,23 @@ int Tour::run() {
     for (const DispatchRow& row : dispatchTable()) {
         // Only the dialogs the library has a template for are shown.
         if (!row.templateName || !FindResourceA(library_.module(), row.templateName, RT_DIALOG)) continue;
-        row_ = &row;
-        shot_ = false;
-        settle_ = 0;
-        const auto result = library_.startDialog(row.id, owner_, kSampleHelpFile);
-        emit("StartDialog " + std::to_string(row.id) + " = " + std::to_string(result));
+        std::string id = std::to_string(row.id);
+        while (id.size() < 4) id.insert(id.begin(), '0');
+        visit(id + "-" + row.templateName, [&] {
+            return "StartDialog " + std::to_string(row.id) + " = " +
+                   std::to_string(library_.startDialog(row.id, owner_, kSampleHelpFile));
+        });
     }
+    // The dialogs the host opens through exports of their own.
+    const scenario::LibraryExports& exports = library_.exports();
+    if (exports.doSaveDataOptionsDlg)
+        visit("export-SaveAsOpts", [&] {
+            return "DoSaveDataOptionsDlg = " + std::to_string(exports.doSaveDataOptionsDlg(owner_));
+        });
+    if (exports.doImpExpOptionsDlg)
+        visit("export-IDD_OPTIONSIMPORTEXPORT", [&] {
+            return "DoImpExpOptionsDlg 0 = " + std::to_string(exports.doImpExpOptionsDlg(owner_, 0, 0));
+        });
     watch_.stop();
     HostState::instance().setSink(nullptr);
     library_.unload();
