@@ -1,6 +1,9 @@
 // The data family's part of dispatch: which behaviour serves which id, the
 // descriptor switches, and the defaults of the remembered options.
 #include "core/families.h"
+#include "data/case_selection.h"
+#include "data/condition_rows.h"
+#include "data/conditional_assignment.h"
 #include "data/sort_rank_transpose.h"
 
 namespace kvs::data {
@@ -18,6 +21,9 @@ DescriptorSettings descriptorSettings(std::uint16_t commandId) {
 
 DialogBehaviour* behaviour(std::uint16_t commandId) {
     switch (commandId) {
+    case 46: return &selectBehaviour();
+    case 67: return &letBehaviour();
+    case 69: return &ifThenLetBehaviour();
     case 71: return &rankBehaviour();
     case 72: return &sortBehaviour();
     case 75: return &transposeBehaviour();
@@ -25,6 +31,9 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
     }
 }
 
-void resetDefaults() { resetSortDefaults(); }
+void resetDefaults() {
+    resetSortDefaults();
+    resetConditionDefaults();
+}
 
 }  // namespace kvs::data
