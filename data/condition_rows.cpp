@@ -55,7 +55,11 @@ void ConditionDialog::fillOperators(DialogView& view, int row, int position) {
     fillCombo(view, operatorBox(row), text::kOperators, position);
 }
 
+// The lists open with nothing chosen, so neither Add inserts before the
+// user picks a name.
 int ConditionDialog::initShared(DialogView& view) {
+    view.listSelect(IDC_SOURCE, -1, false);
+    view.listSelect(IDC_SOURCE2, -1, false);
     view.enable(IDC_ADD1, false);
     view.enable(IDC_ADD2, false);
     view.comboClear(IDC_FUNCTION_TYPE);
@@ -68,8 +72,8 @@ int ConditionDialog::initShared(DialogView& view) {
 }
 
 void ConditionDialog::resetShared(DialogView& view) {
-    for (int list : {IDC_SOURCE, IDC_SOURCE2})
-        for (int index : view.listSelection(list)) view.listSelect(list, index, false);
+    view.listSelect(IDC_SOURCE, -1, false);
+    view.listSelect(IDC_SOURCE2, -1, false);
     view.enable(IDC_ADD1, false);
     view.enable(IDC_ADD2, false);
     view.comboSelect(IDC_FUNCTION_TYPE, 0);
@@ -98,8 +102,7 @@ void ConditionDialog::showFunctions(DialogView& view) {
 void ConditionDialog::listChosen(DialogView& view, int list) {
     const int other = list == IDC_SOURCE ? IDC_SOURCE2 : IDC_SOURCE;
     const bool chosen = !view.listSelection(list).empty();
-    if (chosen)
-        for (int index : view.listSelection(other)) view.listSelect(other, index, false);
+    if (chosen) view.listSelect(other, -1, false);
     view.enable(list == IDC_SOURCE ? IDC_ADD1 : IDC_ADD2, chosen);
     view.enable(list == IDC_SOURCE ? IDC_ADD2 : IDC_ADD1, false);
 }

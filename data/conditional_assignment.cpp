@@ -9,6 +9,9 @@ namespace kvs::data {
 
 namespace {
 
+// Rows 2 and 3 keep their connector in thenConnectors.
+std::size_t thenSlot(int row) { return static_cast<std::size_t>(row - 1); }
+
 void refuse() { showStop(ui().focusWindow(), text::kIncomplete); }
 
 ConditionRow readRow(const DialogView& view, int row, ConditionRow r) {
@@ -64,7 +67,7 @@ public:
         for (int row = 0; row < kConditionRows; ++row) {
             const ConditionRow& r = s.rows[static_cast<std::size_t>(row)];
             if (row == 1 || row == 2)
-                fillCombo(view, connectorBox(row), text::kThenConnectors, s.thenConnectors[static_cast<std::size_t>(row - 1)]);
+                fillCombo(view, connectorBox(row), text::kThenConnectors, s.thenConnectors[thenSlot(row)]);
             view.setText(variableField(row), r.variable);
             if (row < 3) fillOperators(view, row, r.op);
             view.setText(valueField(row), r.value);
@@ -80,7 +83,7 @@ public:
         view.comboSelect(IDC_IF_CHOICE, 0);
         for (int row = 0; row < kConditionRows; ++row) {
             if (row == 1 || row == 2)
-                view.comboSelect(connectorBox(row), defaults.thenConnectors[static_cast<std::size_t>(row - 1)]);
+                view.comboSelect(connectorBox(row), defaults.thenConnectors[thenSlot(row)]);
             view.setText(variableField(row), "");
             if (row < 3) view.comboSelect(operatorBox(row), 0);
             view.setText(valueField(row), "");
@@ -98,7 +101,7 @@ protected:
             ConditionRow& r = s.rows[static_cast<std::size_t>(row)];
             r = readRow(view, row, r);
             if (row < 3) r.op = view.comboSelection(operatorBox(row));
-            if (row == 1 || row == 2) s.thenConnectors[static_cast<std::size_t>(row - 1)] = view.comboSelection(connectorBox(row));
+            if (row == 1 || row == 2) s.thenConnectors[thenSlot(row)] = view.comboSelection(connectorBox(row));
         }
         CommandText line;
         if (!composeIfThenLet(s, line)) {
@@ -158,8 +161,7 @@ bool composeIfThenLet(const ConditionState& state, CommandText& line) {
         bool assignment = row == 3;
         if (row == 1 || row == 2) {
             const std::string_view connector =
-                entryAt(text::kThenConnectors, state.thenConnectors[static_cast<std::size_t>(row - 1)])
-                    .substr(0, kConnectorTextBound);
+                entryAt(text::kThenConnectors, state.thenConnectors[thenSlot(row)]).substr(0, kConnectorTextBound);
             assignment = connector == text::kThen;
             if (!assignment) piece.append(connector).append(" (");
         } else if (row == 0) {
@@ -167,7 +169,8 @@ bool composeIfThenLet(const ConditionState& state, CommandText& line) {
         }
         if (assignment) piece.append(text::kThenLet);
         piece.append(r.variable);
-        piece.append(assignment ? std::string_view("=") : entryAt(text::kOperators, r.op).substr(0, kOperatorTextBound));
+        const std::string_view op = entryAt(text::kOperators, r.op).substr(0, kOperatorTextBound);
+        piece.append(assignment ? std::string_view("=") : op);
         piece.append(r.value);
         if (!assignment) piece.append(") ");
 
