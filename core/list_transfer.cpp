@@ -44,11 +44,15 @@ void removeSelected(DialogView& view, const ListTransferRow& row) {
     for (int index : picked) view.listDelete(row.targetList, index);
 }
 
-bool isTransferControl(int id) {
-    for (const ListTransferRow& row : kListTransfers)
+// Only rows whose target list the dialog uses: in a dialog without target
+// lists the source lists and Add buttons are the dialog's own.
+bool isTransferControl(const DialogView& view, int id, const TargetCapacity& capacity) {
+    for (const ListTransferRow& row : kListTransfers) {
+        if (!isUsed(view, row, capacity)) continue;
         if (id == row.addButton || id == row.removeButton || id == row.targetList || id == row.sources[0] ||
             id == row.sources[1])
             return true;
+    }
     return false;
 }
 
@@ -87,7 +91,7 @@ void updateTransferButtons(DialogView& view, const TargetCapacity& capacity) {
 
 bool handleListTransfer(DialogView& view, int controlId, int notifyCode, const TargetCapacity& capacity,
                         ListInsert how) {
-    if (!isTransferControl(controlId)) return false;
+    if (!isTransferControl(view, controlId, capacity)) return false;
     transfer(view, controlId, notifyCode, capacity, how);
     updateTransferButtons(view, capacity);
     return true;

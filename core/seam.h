@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kvs {
@@ -28,6 +29,7 @@ inline constexpr int kButtonClicked = 0;   // BN_CLICKED
 inline constexpr int kListSelChange = 1;   // LBN_SELCHANGE
 inline constexpr int kListDblClick = 2;    // LBN_DBLCLK
 inline constexpr int kEditChange = 0x300;  // EN_CHANGE
+inline constexpr int kEditSetFocus = 0x100; // EN_SETFOCUS: an edit control got the focus
 inline constexpr int kComboSelChange = 1;  // CBN_SELCHANGE
 inline constexpr int kComboEditChange = 5; // CBN_EDITCHANGE
 
@@ -58,6 +60,15 @@ public:
     virtual void listSelect(int id, int index, bool on) = 0;
     virtual void listSetCurrent(int id, int index) = 0;  // LB_SETCURSEL
     virtual void setRedraw(int id, bool on) = 0;
+
+    // Edit controls: the selection in characters, start <= end (the caret
+    // when they are equal). Setting a text puts the caret at 0, as Windows
+    // does; setEditSelection clamps to the text.
+    virtual std::pair<int, int> editSelection(int id) const {
+        const int length = static_cast<int>(text(id).size());
+        return {length, length};
+    }
+    virtual void setEditSelection(int, int, int) {}
 
     // Combo boxes.
     virtual void comboAdd(int id, std::string_view text) = 0;

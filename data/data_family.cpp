@@ -2,6 +2,9 @@
 // descriptor switches, and the defaults of the remembered options.
 #include "core/dialog_defaults.h"
 #include "core/families.h"
+#include "data/case_selection.h"
+#include "data/condition_rows.h"
+#include "data/conditional_assignment.h"
 #include "data/sort_rank_transpose.h"
 
 namespace kvs::data {
@@ -19,6 +22,9 @@ DescriptorSettings descriptorSettings(std::uint16_t commandId) {
 
 DialogBehaviour* behaviour(std::uint16_t commandId) {
     switch (commandId) {
+    case 46: return &selectBehaviour();
+    case 67: return &letBehaviour();
+    case 69: return &ifThenLetBehaviour();
     case 71: return &rankBehaviour();
     case 72: return &sortBehaviour();
     case 75: return &transposeBehaviour();
@@ -26,6 +32,9 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
     }
 }
 
-void addDefaults(DefaultsTable& table) { addSortDefaults(table); }
+void addDefaults(DefaultsTable& table) {
+    addSortDefaults(table);
+    table.routine([](bool) { resetConditionDefaults(); });
+}
 
 }  // namespace kvs::data

@@ -130,11 +130,20 @@ void HeadlessBackend::doubleClick(int listId, int index) {
     if (DialogWindow* window = dialog()) window->handler->onCommand(*window->dialog, listId, kListDblClick);
 }
 
+// A user clicks into an edit field (it takes the focus and says so), types
+// the text and leaves the caret after it.
 void HeadlessBackend::typeText(int id, const std::string& text) {
     DialogWindow* window = dialog();
     if (!window) return;
-    window->dialog->setText(id, text);
-    window->handler->onCommand(*window->dialog, id, window->dialog->isComboBox(id) ? kComboEditChange : kEditChange);
+    HeadlessDialog& d = *window->dialog;
+    const bool edit = d.isEdit(id);
+    if (edit && d.focus() != id && d.isEnabled(id)) {
+        d.setFocus(id);
+        window->handler->onCommand(d, id, kEditSetFocus);
+    }
+    d.setText(id, text);
+    if (edit) d.setEditSelection(id, static_cast<int>(d.text(id).size()), -1);
+    window->handler->onCommand(d, id, d.isComboBox(id) ? kComboEditChange : kEditChange);
 }
 
 void HeadlessBackend::chooseEntry(int id, int index) {

@@ -142,7 +142,30 @@ std::string HeadlessDialog::text(int id) const {
 // A drop-down list has no edit field: setting its text changes nothing.
 void HeadlessDialog::setText(int id, std::string_view text) {
     ControlState* c = find(id);
-    if (c != nullptr && !c->def.comboDropList()) c->text = cText(text);
+    if (c == nullptr || c->def.comboDropList()) return;
+    c->text = cText(text);
+    c->selStart = c->selEnd = 0;
+}
+
+std::pair<int, int> HeadlessDialog::editSelection(int id) const {
+    const ControlState* c = findKind(id, ControlKind::Edit);
+    if (c == nullptr) return {0, 0};
+    const int length = static_cast<int>(c->text.size());
+    return {std::clamp(c->selStart, 0, length), std::clamp(c->selEnd, 0, length)};
+}
+
+// As EM_SETSEL: -1 as the end means the end of the text; the two are
+// clamped to the text and put in order.
+void HeadlessDialog::setEditSelection(int id, int start, int end) {
+    ControlState* c = findKind(id, ControlKind::Edit);
+    if (c == nullptr) return;
+    const int length = static_cast<int>(c->text.size());
+    if (end < 0) end = length;
+    if (start < 0) start = end = 0;
+    start = std::clamp(start, 0, length);
+    end = std::clamp(end, 0, length);
+    c->selStart = std::min(start, end);
+    c->selEnd = std::max(start, end);
 }
 
 bool HeadlessDialog::isEnabled(int id) const {

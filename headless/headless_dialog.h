@@ -36,6 +36,7 @@ struct ControlState {
     bool enabled = true;
     int check = kUnchecked;      // buttons that can be checked
     std::vector<ListEntry> items;  // list and combo boxes; a combo box selects at most one
+    int selStart = 0, selEnd = 0;  // edit controls: the selection, the caret when equal
     bool redraw = true;
 };
 
@@ -70,6 +71,8 @@ public:
     void comboClear(int id) override;
     int comboSelection(int id) const override;
     void comboSelect(int id, int index) override;
+    std::pair<int, int> editSelection(int id) const override;
+    void setEditSelection(int id, int start, int end) override;
     void centre() override { centred_ = true; }
     void end(int result) override;
 

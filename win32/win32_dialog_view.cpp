@@ -19,7 +19,7 @@ public:
     ChangingControls& operator=(const ChangingControls&) = delete;
 };
 
-enum class Kind { Other, Button, ListBox, ComboBox };
+enum class Kind { Other, Button, ListBox, ComboBox, Edit };
 
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
@@ -36,6 +36,7 @@ Kind kindOf(HWND control) {
     if (sameName(cls, "Button")) return Kind::Button;
     if (sameName(cls, "ListBox")) return Kind::ListBox;
     if (sameName(cls, "ComboBox")) return Kind::ComboBox;
+    if (sameName(cls, "Edit")) return Kind::Edit;
     return Kind::Other;
 }
 
@@ -252,6 +253,24 @@ void Win32DialogView::comboSelect(int id, int index) {
     ChangingControls changing;
     if (!validIndex(combo, CB_GETCOUNT, index)) index = -1;
     send(combo, CB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+// ---------------------------------------------------------------------------
+// Edit controls
+
+std::pair<int, int> Win32DialogView::editSelection(int id) const {
+    HWND edit = find(dialog_, id, Kind::Edit);
+    if (!edit) return {0, 0};
+    DWORD start = 0, end = 0;
+    send(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {static_cast<int>(start), static_cast<int>(end)};
+}
+
+void Win32DialogView::setEditSelection(int id, int start, int end) {
+    HWND edit = find(dialog_, id, Kind::Edit);
+    if (!edit) return;
+    ChangingControls changing;
+    send(edit, EM_SETSEL, static_cast<WPARAM>(start), static_cast<LPARAM>(end));
 }
 
 // ---------------------------------------------------------------------------

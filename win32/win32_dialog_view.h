@@ -39,6 +39,8 @@ public:
     void comboClear(int id) override;
     int comboSelection(int id) const override;
     void comboSelect(int id, int index) override;
+    std::pair<int, int> editSelection(int id) const override;
+    void setEditSelection(int id, int start, int end) override;
 
     void setCaption(std::string_view text) override;
     void centre() override;

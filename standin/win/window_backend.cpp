@@ -101,14 +101,22 @@ void WindowBackend::doubleClick(int listId, int index) {
 // A single-line edit reports WM_SETTEXT itself with EN_CHANGE; a multi-line
 // edit and a combo box do not, so the notification a typing user causes is
 // sent for them.
+// Typing into an edit field first clicks into it: it takes the focus (and
+// reports EN_SETFOCUS itself when it did not have it), and the caret ends
+// after the typed text.
 void WindowBackend::typeText(int id, const std::string& text) {
     const HWND window = dialog();
     const HWND control = item(id);
     if (!control) return;
-    SetWindowTextA(control, text.c_str());
     const ControlKind kind = controlKind(control);
+    if (kind == ControlKind::Edit && IsWindowEnabled(control) && GetFocus() != control) SetFocus(control);
+    SetWindowTextA(control, text.c_str());
     if (kind == ControlKind::ComboBox) notify(window, id, CBN_EDITCHANGE);
     else if (kind != ControlKind::Edit || isMultilineEdit(control)) notify(window, id, EN_CHANGE);
+    if (kind == ControlKind::Edit) {
+        const int length = GetWindowTextLengthA(control);
+        SendMessageA(control, EM_SETSEL, static_cast<WPARAM>(length), length);
+    }
 }
 
 void WindowBackend::chooseEntry(int id, int index) {

@@ -1,6 +1,7 @@
 #include "headless/rc_template.h"
 #include "tools/scenario/text_file.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/seam.h"
@@ -141,6 +142,22 @@ inline void textAndButtons(DialogView& view, Failures& failures) {
     KVS_VIEW_EXPECT(view.isEnabled(kPush));
 }
 
+// The caret goes to 0 with a new text; a selection is clamped and ordered.
+inline void editSelection(DialogView& view, Failures& failures) {
+    view.setText(kEdit, "abcdef");
+    KVS_VIEW_EXPECT(view.editSelection(kEdit) == std::make_pair(0, 0));
+    view.setEditSelection(kEdit, 2, 4);
+    KVS_VIEW_EXPECT(view.editSelection(kEdit) == std::make_pair(2, 4));
+    view.setEditSelection(kEdit, 5, 1);
+    KVS_VIEW_EXPECT(view.editSelection(kEdit) == std::make_pair(1, 5));
+    view.setEditSelection(kEdit, 3, 99);
+    KVS_VIEW_EXPECT(view.editSelection(kEdit) == std::make_pair(3, 6));
+    view.setEditSelection(kEdit, 6, -1);
+    KVS_VIEW_EXPECT(view.editSelection(kEdit) == std::make_pair(6, 6));
+    KVS_VIEW_EXPECT(view.editSelection(kCheck) == std::make_pair(0, 0));  // not an edit
+    view.setText(kEdit, "");
+}
+
 // focused: the id of the control that has the focus, 0 for none.
 inline void focus(DialogView& view, const std::function<int()>& focused, Failures& failures) {
     view.setFocus(kEdit);
@@ -161,6 +178,7 @@ inline Failures runAll(DialogView& view, const std::function<int()>& focused) {
     multiSelection(view, failures);
     comboBoxes(view, failures);
     textAndButtons(view, failures);
+    editSelection(view, failures);
     focus(view, focused, failures);
     return failures;
 }

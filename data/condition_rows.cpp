@@ -1,0 +1,189 @@
+#include "data/condition_rows.h"
+
+#include <algorithm>
+
+#include "data/condition_texts.h"
+#include "data/function_catalogue.h"
+#include "resources/data_conditions_ids.h"
+
+namespace kvs::data {
+
+namespace {
+
+ConditionState state;
+
+}  // namespace
+
+ConditionState& conditionState() { return state; }
+void resetConditionDefaults() { state = ConditionState{}; }
+
+bool hasText(std::string_view text) { return text.find_first_not_of(' ') != std::string_view::npos; }
+
+std::string bounded(std::string_view text, std::size_t bound) { return std::string(text.substr(0, bound)); }
+
+bool isCharacterExpression(std::string_view value) {
+    if (value.find_first_of("\"'$") != std::string_view::npos) return true;
+    return std::any_of(text::kCharacterFunctions.begin(), text::kCharacterFunctions.end(),
+                       [value](std::string_view name) { return value.find(name) != std::string_view::npos; });
+}
+
+std::string quoted(std::string_view value) {
+    const char quote = value.find('"') == std::string_view::npos ? '"' : '\'';
+    std::string out;
+    out.reserve(value.size() + 2);
+    out += quote;
+    out += value;
+    out += quote;
+    return out;
+}
+
+int variableField(int row) { return IDC_ROW_VARIABLE1 + row; }
+int valueField(int row) { return IDC_ROW_VALUE1 + row; }
+int operatorBox(int row) { return IDC_ROW_OPERATOR1 + row; }
+int connectorBox(int row) { return row == 0 ? 0 : IDC_ROW_CONNECTOR2 + row - 1; }
+
+bool ConditionDialog::isField(int id) const { return id >= IDC_ROW_VARIABLE1 && id <= IDC_ROW_VALUE4; }
+
+void ConditionDialog::fillCombo(DialogView& view, int id, std::span<const std::string_view> entries, int position) {
+    view.comboClear(id);
+    for (std::string_view entry : entries) view.comboAdd(id, entry);
+    const int last = static_cast<int>(entries.size()) - 1;
+    view.comboSelect(id, std::clamp(position, 0, last));
+}
+
+void ConditionDialog::fillOperators(DialogView& view, int row, int position) {
+    fillCombo(view, operatorBox(row), text::kOperators, position);
+}
+
+// The lists open with nothing chosen, so neither Add inserts before the
+// user picks a name.
+int ConditionDialog::initShared(DialogView& view) {
+    view.listSelect(IDC_SOURCE, -1, false);
+    view.listSelect(IDC_SOURCE2, -1, false);
+    view.enable(IDC_ADD1, false);
+    view.enable(IDC_ADD2, false);
+    view.comboClear(IDC_FUNCTION_TYPE);
+    for (int i = 0; i < kFunctionCategoryCount; ++i)
+        view.comboAdd(IDC_FUNCTION_TYPE, categoryName(static_cast<FunctionCategory>(i)));
+    view.comboSelect(IDC_FUNCTION_TYPE, static_cast<int>(categoryAt(conditionState().functionType)));
+    showFunctions(view);
+    remembered_ = IDC_ROW_VARIABLE1;
+    return IDC_ROW_VARIABLE1;
+}
+
+void ConditionDialog::resetShared(DialogView& view) {
+    view.listSelect(IDC_SOURCE, -1, false);
+    view.listSelect(IDC_SOURCE2, -1, false);
+    view.enable(IDC_ADD1, false);
+    view.enable(IDC_ADD2, false);
+    view.comboSelect(IDC_FUNCTION_TYPE, 0);
+    showFunctions(view);
+    focusField(view, IDC_ROW_VARIABLE1);
+}
+
+// Programmatic focus changes send no notification the dialog sees, so the
+// remembered field follows here.
+void ConditionDialog::focusField(DialogView& view, int id) {
+    view.setFocus(id);
+    if (isField(id)) remembered_ = id;
+}
+
+void ConditionDialog::showFunctions(DialogView& view) {
+    const FunctionCategory category = categoryAt(view.comboSelection(IDC_FUNCTION_TYPE));
+    view.setRedraw(IDC_FUNCTIONS, false);
+    view.listClear(IDC_FUNCTIONS);
+    for (const FunctionEntry& entry : functionCatalogue())
+        if (entry.category == category) view.listAdd(IDC_FUNCTIONS, entry.name, ListInsert::Append);
+    view.setRedraw(IDC_FUNCTIONS, true);
+    view.enable(IDC_ADD_FUNCTION, false);
+}
+
+// Choosing a name in one variable list drops the choice in the other.
+void ConditionDialog::listChosen(DialogView& view, int list) {
+    const int other = list == IDC_SOURCE ? IDC_SOURCE2 : IDC_SOURCE;
+    const bool chosen = !view.listSelection(list).empty();
+    if (chosen) view.listSelect(other, -1, false);
+    view.enable(list == IDC_SOURCE ? IDC_ADD1 : IDC_ADD2, chosen);
+    view.enable(list == IDC_SOURCE ? IDC_ADD2 : IDC_ADD1, false);
+}
+
+void ConditionDialog::insertFromList(DialogView& view, int list) {
+    const std::vector<int> chosen = view.listSelection(list);
+    if (chosen.empty()) return;
+    const std::string name = view.listText(list, chosen.front());
+    // A function goes in with the caret between its parentheses.
+    insertAtCaret(view, name, list == IDC_FUNCTIONS && name.ends_with("()") ? 1 : 0);
+}
+
+// Replaces the selection of the remembered field, keeping the field within
+// its bound, and gives the field the focus with the caret after the text.
+void ConditionDialog::insertAtCaret(DialogView& view, std::string_view insert, std::size_t caretFromEnd) {
+    const int field = remembered_;
+    if (!isField(field) || !view.has(field) || !view.isEnabled(field)) return;
+    const std::size_t bound = field < IDC_ROW_VALUE1 ? kVariableTextBound : kValueTextBound;
+    const std::string current = view.text(field);
+    auto [start, end] = view.editSelection(field);
+    const auto size = static_cast<int>(current.size());
+    start = std::clamp(start, 0, size);
+    end = std::clamp(end, start, size);
+    const auto head = static_cast<std::size_t>(start);
+    std::string next = bounded(current.substr(0, head), bound);
+    next.append(insert);
+    const std::size_t caret = next.size() >= caretFromEnd ? next.size() - caretFromEnd : 0;
+    next.append(current.substr(static_cast<std::size_t>(end)));
+    next = bounded(next, bound);
+    view.setText(field, next);
+    const int at = static_cast<int>(std::min(caret, next.size()));
+    focusField(view, field);
+    view.setEditSelection(field, at, at);
+    fieldsChanged(view);
+}
+
+int ConditionDialog::command(DialogContext& context, int controlId, int notifyCode) {
+    DialogView& view = context.view;
+    if (controlId == kIdOk) return accept(view);
+    if (isField(controlId)) {
+        if (notifyCode == kEditSetFocus) remembered_ = controlId;
+        else if (notifyCode == kEditChange) fieldsChanged(view);
+        return 0;
+    }
+    switch (controlId) {
+    case IDC_SOURCE:
+    case IDC_SOURCE2:
+        if (notifyCode == kListSelChange) listChosen(view, controlId);
+        else if (notifyCode == kListDblClick) insertFromList(view, controlId);
+        return 0;
+    case IDC_ADD1:
+    case IDC_ADD2:
+        if (notifyCode == kButtonClicked) insertFromList(view, controlId == IDC_ADD1 ? IDC_SOURCE : IDC_SOURCE2);
+        return 0;
+    case IDC_FUNCTION_TYPE:
+        if (notifyCode == kComboSelChange) showFunctions(view);
+        return 0;
+    case IDC_FUNCTIONS:
+        if (notifyCode == kListSelChange) view.enable(IDC_ADD_FUNCTION, !view.listSelection(IDC_FUNCTIONS).empty());
+        else if (notifyCode == kListDblClick) insertFromList(view, IDC_FUNCTIONS);
+        return 0;
+    case IDC_ADD_FUNCTION:
+        if (notifyCode == kButtonClicked) insertFromList(view, IDC_FUNCTIONS);
+        return 0;
+    default: break;
+    }
+    if (notifyCode != kComboSelChange) return 0;
+    for (int row = 0; row < operatorRows_; ++row) {
+        if (controlId == operatorBox(row)) {
+            focusField(view, valueField(row));
+            return 0;
+        }
+    }
+    for (int row = 0; row < kConditionRows; ++row) {
+        if ((row > 0 && controlId == connectorBox(row)) || (row == 0 && controlId == IDC_IF_CHOICE)) {
+            connectorChosen(view, row);
+            focusField(view, variableField(row));
+            return 0;
+        }
+    }
+    return 0;
+}
+
+}  // namespace kvs::data

@@ -1,0 +1,101 @@
+// What Select, Let and If...Then...Let share: the remembered condition rows,
+// the character-expression test and quoting, and a base behaviour for the
+// variable lists, the function catalogue and the field that takes what they
+// insert.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/dialog_behaviour.h"
+
+namespace kvs::data {
+
+inline constexpr int kConditionRows = 4;
+inline constexpr std::size_t kVariableTextBound = 32;
+inline constexpr std::size_t kValueTextBound = 128;
+inline constexpr std::size_t kConnectorTextBound = 15;
+inline constexpr std::size_t kOperatorTextBound = 2;
+
+struct ConditionRow {
+    int connector = 0;  // Select's AND / OR position (rows 2 to 4)
+    std::string variable;
+    int op = 0;         // position in the operator drop-down
+    std::string value;
+};
+
+// Kept between openings, refreshed at each OK.
+struct ConditionState {
+    std::array<ConditionRow, kConditionRows> rows;
+    std::array<int, 2> thenConnectors{1, 1};  // If...Then...Let rows 2 and 3: "AND"
+    bool ifNot = false;
+    bool selectOff = false;
+    bool complete = false;
+    int functionType = 0;
+};
+
+ConditionState& conditionState();
+void resetConditionDefaults();
+
+// True when the text holds something other than blanks.
+bool hasText(std::string_view text);
+// The first bound characters of text.
+std::string bounded(std::string_view text, std::size_t bound);
+// A value that already is a character expression: it holds a quote, an
+// apostrophe, a "$" or the name of a character function.
+bool isCharacterExpression(std::string_view value);
+// The value in double quotes, or in apostrophes when it holds a double quote.
+std::string quoted(std::string_view value);
+// An entry of a fixed table of drop-down texts; empty when out of range.
+template <std::size_t N>
+std::string_view entryAt(const std::array<std::string_view, N>& entries, int position) {
+    return position >= 0 && static_cast<std::size_t>(position) < N ? entries[static_cast<std::size_t>(position)]
+                                                                     : std::string_view();
+}
+
+int variableField(int row);   // 154..157
+int valueField(int row);      // 158..161
+int operatorBox(int row);     // 162..165
+int connectorBox(int row);    // 167..169 for rows 1 to 3 (0-based), 0 for row 0
+
+// The lists, catalogue and insertion shared by the three dialogs. The
+// remembered field is the variable or value field that last had the focus;
+// Add 6 and 8, Add 153 and double clicks insert at its caret.
+class ConditionDialog : public DialogBehaviour {
+public:
+    int command(DialogContext& context, int controlId, int notifyCode) override;
+
+protected:
+    // operatorRows: how many rows carry an operator drop-down.
+    explicit ConditionDialog(int operatorRows) : operatorRows_(operatorRows) {}
+
+    // The OK button of the dialog.
+    virtual int accept(DialogView& view) = 0;
+    // A variable or value field's text changed, by the user or by an insertion.
+    virtual void fieldsChanged(DialogView&) {}
+    // A connector (or the IF choice) was chosen.
+    virtual void connectorChosen(DialogView&, int) {}
+    virtual bool isField(int id) const;
+
+    // Sets up the lists' Add buttons and the catalogue; focuses row 1's variable.
+    int initShared(DialogView& view);
+    void resetShared(DialogView& view);
+    void focusField(DialogView& view, int id);
+    void fillOperators(DialogView& view, int row, int position);
+    void fillCombo(DialogView& view, int id, std::span<const std::string_view> entries, int position);
+
+    int remembered_ = 0;
+
+private:
+    void showFunctions(DialogView& view);
+    void listChosen(DialogView& view, int list);
+    void insertFromList(DialogView& view, int list);
+    void insertAtCaret(DialogView& view, std::string_view text, std::size_t caretFromEnd);
+
+    int operatorRows_;
+};
+
+}  // namespace kvs::data
