@@ -73,15 +73,18 @@ int GenericDialog::onInit(DialogView& view) {
     const std::int32_t variables = GetNumVars();
     view.centre();
     INQFMV_EX();
-    lib.helpContext = commandId_;
+    lib.helpContext = helpContext();
     prepareTargets(view);
 
     const ListInsert how = listInsertRule();
     if (descriptor_.allocated) {
-        const bool numericOnly = descriptor_.switch1 != 0;
-        fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
-        if (descriptor_.listFlag && view.has(IDC_SOURCE2))
-            fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
+        DialogContext context{view, *this};
+        if (!behaviour_ || !behaviour_->fillSources(context, sourceCatalogue_, secondCatalogue_)) {
+            const bool numericOnly = descriptor_.switch1 != 0;
+            fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
+            if (descriptor_.listFlag && view.has(IDC_SOURCE2))
+                fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
+        }
         for (Target& target : targets_) {
             const bool skip = target.listId == IDC_TARGET1 && commandId_ == 289;
             if (skip || target.capacity <= 0 || target.array->entries.empty() || target.array->entries[0] == -1)
@@ -151,8 +154,12 @@ void GenericDialog::help(DialogView& view) {
     request.owner = view.handle();
     request.file = library().helpPath;
     request.kind = HelpKind::Context;
-    request.context = commandId_;
+    request.context = helpContext();
     ui().help(request);
+}
+
+std::uint32_t GenericDialog::helpContext() const {
+    return behaviour_ ? behaviour_->helpContext(commandId_) : commandId_;
 }
 
 void GenericDialog::resetAll(DialogView& view) {

@@ -1,6 +1,8 @@
 // The data family's part of dispatch: which behaviour serves which id, the
 // descriptor switches, and the defaults of the remembered options.
 #include "core/families.h"
+#include "data/append_merge.h"
+#include "data/key_selection.h"
 #include "data/sort_rank_transpose.h"
 
 namespace kvs::data {
@@ -20,11 +22,18 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
     switch (commandId) {
     case 71: return &rankBehaviour();
     case 72: return &sortBehaviour();
+    case 73: return &appendBehaviour();
+    case 74: return &mergeBehaviour();
     case 75: return &transposeBehaviour();
+    case kKeySelectionId: return &keySelectionBehaviour();
     default: return nullptr;
     }
 }
 
-void resetDefaults() { resetSortDefaults(); }
+void resetDefaults() {
+    resetSortDefaults();
+    resetAppendMergeDefaults();
+    resetKeySelection();
+}
 
 }  // namespace kvs::data
