@@ -160,6 +160,7 @@ bool browseForAFile(DialogView& owner, std::string& result, std::size_t capacity
     request.owner = owner.handle();
     request.title = "Browse for a File";
     request.filter = fileFilters().data;
+    request.defaultExtension = "KVD";
     request.initialName = bounded(remembered, capacity);
     request.flags = kOpenFlags;
     request.capacity = capacity;
