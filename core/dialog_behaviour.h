@@ -8,6 +8,7 @@
 namespace kvs {
 
 class GenericDialog;
+class VariableCatalogue;
 
 struct DialogContext {
     DialogView& view;
@@ -26,6 +27,13 @@ public:
     virtual void reset(DialogContext&) {}
     // The dialog is being cancelled.
     virtual void cancel(DialogContext&) {}
+    // Fills the source lists itself (from other data files, say) instead of
+    // with the variables of the file in use; true when it did.
+    virtual bool fillSources(DialogContext&, VariableCatalogue& /*first*/, VariableCatalogue& /*second*/) {
+        return false;
+    }
+    // The context the Help button opens, and the help-context word's value.
+    virtual std::uint32_t helpContext(std::uint16_t commandId) const { return commandId; }
 };
 
 }  // namespace kvs

@@ -1,6 +1,7 @@
 #include "core/families.h"
 
 #include "core/series_commands.h"
+#include "data/editor_extract.h"
 
 namespace kvs {
 
@@ -20,6 +21,7 @@ void resetFamiliesForLoad() { data::resetOptionDialogs(); }
 
 bool runSpecialCommand(std::uint16_t commandId) {
     switch (commandId) {
+    case 76: data::runEditorExtract(); return true;
     case 242:
     case 245:
     case 246: runSeriesCommand(commandId); return true;

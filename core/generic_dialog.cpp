@@ -74,15 +74,18 @@ int GenericDialog::onInit(DialogView& view) {
     const std::int32_t variables = GetNumVars();
     view.centre();
     INQFMV_EX();
-    lib.helpContext = commandId_;
+    lib.helpContext = helpContext();
     prepareTargets(view);
 
     const ListInsert how = listInsertRule();
     if (descriptor_.allocated) {
-        const bool numericOnly = descriptor_.switch1 != 0;
-        fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
-        if (descriptor_.listFlag && view.has(IDC_SOURCE2))
-            fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
+        DialogContext context{view, *this};
+        if (!behaviour_ || !behaviour_->fillSources(context, sourceCatalogue_, secondCatalogue_)) {
+            const bool numericOnly = descriptor_.switch1 != 0;
+            fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
+            if (descriptor_.listFlag && view.has(IDC_SOURCE2))
+                fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
+        }
         for (Target& target : targets_) {
             const bool skip = target.listId == IDC_TARGET1 && commandId_ == 289;
             if (skip || target.capacity <= 0 || target.array->entries.empty() || target.array->entries[0] == -1)
@@ -147,7 +150,11 @@ void GenericDialog::close(DialogView& view, int result) {
     view.end(result);
 }
 
-void GenericDialog::help(DialogView& view) { openHelpTopic(view.handle(), commandId_); }
+void GenericDialog::help(DialogView& view) { openHelpTopic(view.handle(), helpContext()); }
+
+std::uint32_t GenericDialog::helpContext() const {
+    return behaviour_ ? behaviour_->helpContext(commandId_) : commandId_;
+}
 
 void GenericDialog::resetAll(DialogView& view) {
     for (const Target& target : targets_) view.listClear(target.listId);

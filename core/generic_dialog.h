@@ -12,6 +12,7 @@
 #include "core/dialog_behaviour.h"
 #include "core/seam.h"
 #include "core/variable_list.h"
+#include "resources/common_ids.h"
 
 namespace kvs {
 
@@ -24,6 +25,10 @@ public:
     void onSysCommand(DialogView& view, int code) override;
 
     std::uint16_t commandId() const { return commandId_; }
+    // The names behind source list 4 or 5, for behaviours that refill them.
+    VariableCatalogue& catalogue(int sourceListId) {
+        return sourceListId == IDC_SOURCE2 ? secondCatalogue_ : sourceCatalogue_;
+    }
 
 private:
     struct Target {
@@ -43,6 +48,7 @@ private:
     void close(DialogView& view, int result);
     void help(DialogView& view);
     void resetAll(DialogView& view);
+    std::uint32_t helpContext() const;
 
     const DispatchRow& row_;
     Descriptor& descriptor_;

@@ -5,6 +5,8 @@
 #include "data/case_selection.h"
 #include "data/condition_rows.h"
 #include "data/conditional_assignment.h"
+#include "data/append_merge.h"
+#include "data/key_selection.h"
 #include "data/sort_rank_transpose.h"
 
 namespace kvs::data {
@@ -27,7 +29,10 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
     case 69: return &ifThenLetBehaviour();
     case 71: return &rankBehaviour();
     case 72: return &sortBehaviour();
+    case 73: return &appendBehaviour();
+    case 74: return &mergeBehaviour();
     case 75: return &transposeBehaviour();
+    case kKeySelectionId: return &keySelectionBehaviour();
     default: return nullptr;
     }
 }
@@ -35,6 +40,8 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
 void addDefaults(DefaultsTable& table) {
     addSortDefaults(table);
     table.routine([](bool) { resetConditionDefaults(); });
+    table.routine([](bool) { resetAppendMergeDefaults(); });
+    table.routine([](bool) { resetKeySelection(); });
 }
 
 }  // namespace kvs::data

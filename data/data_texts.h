@@ -11,6 +11,16 @@ inline constexpr std::string_view kTranspose = "TRANSPOSE ";
 inline constexpr std::string_view kSaveStart = "SAVE '";
 inline constexpr std::string_view kSaveEnd = "'";
 inline constexpr std::string_view kAppendDefaultFile = "APPEND.KVD";
+inline constexpr std::string_view kAppend = "APPEND ";
+inline constexpr std::string_view kOptionSeparator = " / ";
+inline constexpr std::string_view kMatch = "MATCH";
+inline constexpr std::string_view kUnion = "UNION";
+inline constexpr std::string_view kIntersect = "INTERSECT";
+inline constexpr std::string_view kMerge = "MERGE ";
+inline constexpr std::string_view kFileNotSpecified = "Filename(s) not specified.";
+inline constexpr std::string_view kExtractTitle = "Extract";
+inline constexpr std::string_view kExtractStart = "EXTRACT '";
+inline constexpr std::string_view kExtractEnd = "'";
 
 // Save-as and import/export options.
 inline constexpr std::string_view kSaveAsOptionsTemplate = "SaveAsOpts";

@@ -6,9 +6,11 @@
 
 #include "core/help_requests.h"
 #include "core/library_state.h"
+#include "core/command_text.h"
 #include "core/messages.h"
 #include "data/data_texts.h"
 #include "data/option_dialogs.h"
+#include "data/quote_file_name.h"
 #include "resources/options_ids.h"
 
 namespace kvs::data {
@@ -43,8 +45,6 @@ struct ImportExportState {
 };
 
 ImportExportState state;
-
-bool isBlank(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
 
 void applyEnabling(DialogView& view) {
     const bool cases = !view.isChecked(IDC_IMPEXP_ALLCASES);
@@ -91,9 +91,9 @@ private:
         state.allCases = view.isChecked(IDC_IMPEXP_ALLCASES) ? 1 : 0;
         state.allColumns = view.isChecked(IDC_IMPEXP_ALLCOLUMNS) ? 1 : 0;
         const bool casesMissing =
-            !state.allCases && (isBlank(view.text(IDC_IMPEXP_FIRSTCASE)) || isBlank(view.text(IDC_IMPEXP_LASTCASE)));
-        const bool columnsMissing = !state.allColumns && (isBlank(view.text(IDC_IMPEXP_FIRSTCOLUMN)) ||
-                                                          isBlank(view.text(IDC_IMPEXP_LASTCOLUMN)));
+            !state.allCases && (isBlankName(view.text(IDC_IMPEXP_FIRSTCASE)) || isBlankName(view.text(IDC_IMPEXP_LASTCASE)));
+        const bool columnsMissing = !state.allColumns && (isBlankName(view.text(IDC_IMPEXP_FIRSTCOLUMN)) ||
+                                                          isBlankName(view.text(IDC_IMPEXP_LASTCOLUMN)));
         if (casesMissing || columnsMissing) {
             showStop(ui().focusWindow(), kvs::text::kProvideMoreInput);
             return;
@@ -106,9 +106,8 @@ private:
 };
 
 // Appends prefix and text when the text is neither absent nor blank.
-void appendPiece(std::string& line, std::string_view prefix, const std::optional<std::string>& text) {
-    if (!text || isBlank(*text)) return;
-    line.append(prefix).append(*text);
+void appendPiece(CommandText& line, std::string_view prefix, const std::optional<std::string>& text) {
+    if (text) quoteFileName(*text, prefix, false, true, line);
 }
 
 }  // namespace
@@ -133,20 +132,17 @@ void attachImportExportOptions(char* line) {
     if (!line) return;
     const std::size_t length = std::strlen(line);
     if (length >= kImportExportLineLimit) return;
-    std::string clauses;
+    CommandText text(std::string_view(line, length));
     if (!state.allCases) {
-        appendPiece(clauses, text::kRowsClause, state.texts[FirstCase]);
-        appendPiece(clauses, text::kRangeSeparator, state.texts[LastCase]);
+        appendPiece(text, text::kRowsClause, state.texts[FirstCase]);
+        appendPiece(text, text::kRangeSeparator, state.texts[LastCase]);
     }
     if (!state.allColumns) {
-        appendPiece(clauses, text::kColumnsClause, state.texts[FirstColumn]);
-        appendPiece(clauses, text::kRangeSeparator, state.texts[LastColumn]);
+        appendPiece(text, text::kColumnsClause, state.texts[FirstColumn]);
+        appendPiece(text, text::kRangeSeparator, state.texts[LastColumn]);
     }
-    appendPiece(clauses, text::kRangeClause, state.texts[Range]);
-    const std::size_t room = kImportExportLineLimit - length;
-    const std::size_t count = clauses.size() < room ? clauses.size() : room;
-    std::memcpy(line + length, clauses.data(), count);
-    line[length + count] = '\0';
+    appendPiece(text, text::kRangeClause, state.texts[Range]);
+    std::memcpy(line + length, text.c_str() + length, text.size() - length + 1);
 }
 
 void resetImportExportOptions() { state = ImportExportState{}; }

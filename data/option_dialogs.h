@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/command_text.h"
 #include "core/seam.h"
 
 namespace kvs::data {
@@ -21,6 +22,6 @@ int runImportExportOptions(WindowRef owner, std::int32_t exportFlag, std::int32_
 // Appends the ROWS=, COLUMNS= and RANGE= clauses of the choices to a line
 // that may grow to kImportExportLineLimit characters.
 void attachImportExportOptions(char* line);
-inline constexpr std::size_t kImportExportLineLimit = 9999;
+inline constexpr std::size_t kImportExportLineLimit = CommandText::kCapacity - 1;
 
 }  // namespace kvs::data

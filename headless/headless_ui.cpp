@@ -83,7 +83,7 @@ int HeadlessUi::messageBox(const MessageRequest& request) {
 std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
     ChooserWindow window{request, false, std::nullopt};
     transcript_(std::string("chooser ") + (request.save ? "save " : "open ") + quote(request.title) + " " +
-                quote(request.initialName));
+                quote(shownName(request.initialName)));
     stack_.push_back(Window{nullptr, nullptr, &window});
     pumpUntil([&] { return window.answered; });
     stack_.pop_back();
@@ -115,6 +115,11 @@ std::string HeadlessUi::windowTitle(WindowRef, std::size_t capacity) {
     if (capacity == 0) return {};
     if (title.size() >= capacity) title.resize(capacity - 1);
     return title;
+}
+
+std::string HeadlessUi::shownName(const std::string& initialName) {
+    const std::size_t slash = initialName.find_last_of("\\/");
+    return slash == std::string::npos ? initialName : initialName.substr(slash + 1);
 }
 
 std::string HeadlessUi::withDefaultExtension(const std::string& path, const std::string& extension) {

@@ -74,6 +74,9 @@ public:
 
     // What the common file dialog returns for a typed name: the default
     // extension is added to a name without one.
+    // The common dialog opens in the initial name's folder and shows only
+    // the name itself in its name field.
+    static std::string shownName(const std::string& initialName);
     static std::string withDefaultExtension(const std::string& path, const std::string& extension);
     // The extension the common dialog adds to a name typed without one: that
     // of the first pattern of the chosen (first) filter, "*.kvd;*.kvs" giving

@@ -55,7 +55,8 @@ KVS_EXPORT int32_t KVS_CALL DoImpExpOptionsDlg(KvsWindow owner, int32_t exportFl
 
 /* Append the chosen options to a NUL-terminated command line owned by the
  * caller. AttachSaveAsOptions needs room for 16 more characters;
- * AttachImpExpOptions's buffer must hold 10,000 bytes. Both return 1. */
+ * AttachImpExpOptions's buffer must hold 10,000 bytes; it stops the line at
+ * 9,998 characters. Both return 1. */
 KVS_EXPORT int32_t KVS_CALL AttachSaveAsOptions(char* commandLine);
 KVS_EXPORT int32_t KVS_CALL AttachImpExpOptions(char* commandLine);
 

@@ -19,6 +19,12 @@ void WindowBackend::setVariables(const std::vector<std::string>& names) {
     KernelState::instance().setVariables(names);
 }
 
+void WindowBackend::setFile(const std::string& path, const std::vector<std::string>& names) {
+    StandinBackend::setFile(path, names);
+    const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+}
+
 void WindowBackend::setOwnerTitle(const std::string& title) { SetWindowTextA(owner_, title.c_str()); }
 void WindowBackend::failAllocation(int nth) { KvsStandinFailAllocation(nth); }
 long WindowBackend::liveAllocations() { return KvsStandinLiveBlocks(); }

@@ -16,6 +16,9 @@ public:
     WindowBackend(const Library& library, HWND owner) : library_(library), owner_(owner) {}
 
     void setVariables(const std::vector<std::string>& names) override;
+    // Also puts an empty file at the path when its folder exists, so that an
+    // open dialog that insists on an existing file can choose it.
+    void setFile(const std::string& path, const std::vector<std::string>& names) override;
     void setOwnerTitle(const std::string& title) override;
     void failAllocation(int nth) override;
     long liveAllocations() override;

@@ -1,0 +1,31 @@
+#include "data/editor_extract.h"
+
+#include <string>
+
+#include "core/command_queue.h"
+#include "core/command_text.h"
+#include "core/file_choosers.h"
+#include "core/library_state.h"
+#include "core/messages.h"
+#include "data/data_texts.h"
+
+namespace kvs::data {
+
+void runEditorExtract() {
+    LibraryState& lib = library();
+    if (lib.dialogUp) {
+        showStop(ui().focusWindow(), kvs::text::kOneDialog);
+        return;
+    }
+    std::string path;
+    lib.dialogUp = true;
+    const bool chosen = chooseSaveFile(lib.hostWindow, text::kExtractTitle, path);
+    lib.dialogUp = false;
+    if (!chosen) return;
+    CommandText line(text::kExtractStart);
+    line.append(path).append(text::kExtractEnd);
+    queue::push(line.c_str(), nullptr);
+    lib.commandsQueued = 1;
+}
+
+}  // namespace kvs::data

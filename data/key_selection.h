@@ -1,0 +1,26 @@
+// The key-selection sub-dialog of Merge ("KeyVars", menu id 91) and the key
+// state it leaves for the MERGE line.
+#pragma once
+
+#include <string>
+
+#include "core/dialog_behaviour.h"
+
+namespace kvs::data {
+
+inline constexpr std::uint16_t kKeySelectionId = 91;
+
+DialogBehaviour& keySelectionBehaviour();
+
+// Runs the key selection over the owner dialog; on OK the key flag is set.
+// Returns 1 on OK, 0 otherwise.
+int runKeySelection(WindowRef owner);
+
+// 1 once a key selection ended with OK, until the defaults are restored.
+int keyFlag();
+// The chosen key names separated by single blanks.
+const std::string& keyText();
+
+void resetKeySelection();
+
+}  // namespace kvs::data
