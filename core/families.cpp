@@ -1,6 +1,9 @@
 #include "core/families.h"
 
+#include "core/library_state.h"
 #include "core/series_commands.h"
+#include "graph/font_chooser.h"
+#include "graph/picture_sets.h"
 
 namespace kvs {
 
@@ -16,13 +19,19 @@ DialogBehaviour* familyBehaviour(std::uint16_t commandId) {
 
 void resetFamilyDefaults() { data::resetDefaults(); }
 
-void resetFamiliesForLoad() { data::resetOptionDialogs(); }
+void resetFamiliesForLoad() {
+    data::resetOptionDialogs();
+    graph::forgetPictures();
+    graph::resetFontChooser();
+}
 
 bool runSpecialCommand(std::uint16_t commandId) {
     switch (commandId) {
     case 242:
     case 245:
     case 246: runSeriesCommand(commandId); return true;
+    case 150:
+    case 153: graph::runFontCommand(commandId, library().hostWindow); return true;
     default: return false;
     }
 }

@@ -36,6 +36,11 @@ private:
         std::fflush(log_);
     }
     void onTick(HWND top);
+    void expectShot(std::string name) {
+        shotName_ = std::move(name);
+        shot_ = false;
+        settle_ = 0;
+    }
 
     std::string outDir_;
     std::FILE* log_;
@@ -44,18 +49,18 @@ private:
     HelpCatcher help_;
     WindowWatch watch_;
     WindowBackend backend_;
-    const DispatchRow* row_ = nullptr;
+    std::string shotName_;  // empty: no picture wanted
     bool shot_ = false;
     int settle_ = 0;
 };
 
 void Tour::onTick(HWND top) {
     if (!top) return;
-    if (roleOf(top, library_.module()) == scenario::WindowKind::Dialog && !shot_ && row_) {
+    const scenario::WindowKind kind = roleOf(top, library_.module());
+    const bool pictured = kind == scenario::WindowKind::Dialog || kind == scenario::WindowKind::FontChooser;
+    if (pictured && !shot_ && !shotName_.empty()) {
         if (++settle_ < kSettleTicks) return;
-        std::string id = std::to_string(row_->id);
-        while (id.size() < 4) id.insert(id.begin(), '0');
-        const std::string path = outDir_ + "\\" + id + "-" + row_->templateName + ".bmp";
+        const std::string path = outDir_ + "\\" + shotName_ + ".bmp";
         if (!saveWindowBitmap(top, path)) emit("error " + scenario::quote("cannot save " + path));
         shot_ = true;
     }
@@ -76,12 +81,22 @@ int Tour::run() {
     for (const DispatchRow& row : dispatchTable()) {
         // Only the dialogs the library has a template for are shown.
         if (!row.templateName || !FindResourceA(library_.module(), row.templateName, RT_DIALOG)) continue;
-        row_ = &row;
-        shot_ = false;
-        settle_ = 0;
+        std::string id = std::to_string(row.id);
+        while (id.size() < 4) id.insert(id.begin(), '0');
+        expectShot(id + "-" + row.templateName);
         const auto result = library_.startDialog(row.id, owner_, kSampleHelpFile);
         emit("StartDialog " + std::to_string(row.id) + " = " + std::to_string(result));
     }
+    // The font chooser of the graph font command, and the colour picker
+    // the host opens through its export.
+    expectShot("0150-Font");
+    emit("StartDialog 150 = " + std::to_string(library_.startDialog(150, owner_, kSampleHelpFile)));
+    if (const auto picker = library_.exports().colorPickerDialogEx) {
+        expectShot("export-ColorPicker");
+        double colour = 0.5;
+        emit("ColorPickerDialogEx = " + std::to_string(picker(owner_, &colour)));
+    }
+    shotName_.clear();
     watch_.stop();
     HostState::instance().setSink(nullptr);
     library_.unload();
