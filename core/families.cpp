@@ -1,7 +1,10 @@
 #include "core/families.h"
 
+#include "core/library_state.h"
 #include "core/series_commands.h"
 #include "data/editor_extract.h"
+#include "graph/font_chooser.h"
+#include "graph/picture_sets.h"
 
 namespace kvs {
 
@@ -17,7 +20,11 @@ DialogBehaviour* familyBehaviour(std::uint16_t commandId) {
 
 void addFamilyDefaults(DefaultsTable& table) { data::addDefaults(table); }
 
-void resetFamiliesForLoad() { data::resetOptionDialogs(); }
+void resetFamiliesForLoad() {
+    data::resetOptionDialogs();
+    graph::forgetPictures();
+    graph::resetFontChooser();
+}
 
 bool runSpecialCommand(std::uint16_t commandId) {
     switch (commandId) {
@@ -25,6 +32,8 @@ bool runSpecialCommand(std::uint16_t commandId) {
     case 242:
     case 245:
     case 246: runSeriesCommand(commandId); return true;
+    case 150:
+    case 153: graph::runFontCommand(commandId, library().hostWindow); return true;
     default: return false;
     }
 }

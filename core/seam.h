@@ -11,10 +11,14 @@
 #include <utility>
 #include <vector>
 
+#include "include/kvs_platform.h"
+
 namespace kvs {
 
 // An opaque window handle (an HWND under Windows); 0 is "no window".
 using WindowRef = std::uintptr_t;
+// An opaque bitmap handle (an HBITMAP under Windows); 0 is "no bitmap".
+using BitmapRef = std::uintptr_t;
 
 // How a name goes into a list box: Sorted is LB_ADDSTRING (sorted only when
 // the list box has the sort style), Append is LB_INSERTSTRING at -1.
@@ -95,6 +99,11 @@ public:
     virtual void onCommand(DialogView& view, int controlId, int notifyCode) = 0;
     // A system command of the library's own (the help requests 801 to 804).
     virtual void onSysCommand(DialogView& view, int code) = 0;
+    // A mouse click at (x, y) in the client area, width x height pixels, of
+    // a control the library draws itself (the colour grid).
+    virtual void onClick(DialogView& view, int controlId, int x, int y, int width, int height) {
+        (void)view, (void)controlId, (void)x, (void)y, (void)width, (void)height;
+    }
 };
 
 enum class MessageIcon { None, Stop, Exclamation, Question, Information };
@@ -131,6 +140,17 @@ struct HelpRequest {
     std::string key;
 };
 
+// System colours the library draws list entries with.
+enum class SystemColour { WindowText, HighlightText };
+
+// The system font dialog: screen fonts only, TrueType only, opened at the
+// initial record.
+struct FontRequest {
+    WindowRef owner = 0;
+    KvsLogFont initial{};
+    std::string okText;  // new text of the OK button; empty leaves it
+};
+
 // Services outside one dialog's controls.
 class UiServices {
 public:
@@ -150,6 +170,15 @@ public:
     virtual std::uintptr_t beginWait() = 0;
     virtual void endWait(std::uintptr_t previous) = 0;
     virtual void beep() = 0;
+    // A bitmap resource of the library by name, or 0 when it has none.
+    virtual BitmapRef loadBitmap(std::string_view name) = 0;
+    virtual void deleteBitmap(BitmapRef bitmap) = 0;
+    // A system colour as 0x00BBGGRR.
+    virtual std::uint32_t systemColour(SystemColour which) = 0;
+    // The screen's vertical pixels per logical inch.
+    virtual int screenPixelsPerInchY() = 0;
+    // The chosen font, or nothing when the user cancelled.
+    virtual std::optional<KvsLogFont> chooseFont(const FontRequest& request) = 0;
 };
 
 // The services the library uses; set by the backend before any export runs.

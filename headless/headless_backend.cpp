@@ -51,6 +51,9 @@ const scenario::LibraryExports& HeadlessBackend::exports() {
         e.doImpExpOptionsDlg = &DoImpExpOptionsDlg;
         e.attachSaveAsOptions = &AttachSaveAsOptions;
         e.attachImpExpOptions = &AttachImpExpOptions;
+        e.colorPickerDialogEx = &ColorPickerDialogEx;
+        e.loadSymbolBitmapsEx = &LoadSymbolBitmapsEx;
+        e.deleteSymbolBitmapsEx = &DeleteSymbolBitmapsEx;
         e.kvgFont = &lfKvgFont;
         e.defKvgFont = &lfDefKvgFont;
         return e;
@@ -71,6 +74,7 @@ WindowKind HeadlessBackend::topKind() {
     const auto window = ui_.top();
     if (!window) return WindowKind::None;
     if (window->dialog) return WindowKind::Dialog;
+    if (window->font) return WindowKind::FontChooser;
     return window->message ? WindowKind::Message : WindowKind::Chooser;
 }
 
@@ -79,6 +83,7 @@ std::string HeadlessBackend::topText() {
     if (!window) return {};
     if (window->dialog) return window->dialog->dialog->caption();
     if (window->message) return window->message->request.text;
+    if (window->font) return HeadlessUi::kFontChooserTitle;
     return window->chooser->request.title;
 }
 
@@ -183,6 +188,29 @@ void HeadlessBackend::answerChooser(const std::optional<std::string>& path) {
     if (!window || !window->chooser) return;
     window->chooser->answered = true;
     window->chooser->path = path;
+}
+
+// A control's client area in pixels: its template size in dialog units
+// converted as MapDialogRect does with the base units Wine gives the
+// templates' 8-point "MS Shell Dlg" at 96 dpi, 6 x 12 pixels (measured with
+// clicks on the colour grid's cell borders).
+void HeadlessBackend::clickAt(int id, int x, int y) {
+    DialogWindow* window = dialog();
+    const ControlState* state = window ? window->dialog->control(id) : nullptr;
+    if (!state) return;
+    constexpr int kBaseUnitX = 6, kBaseUnitY = 12;
+    const int width = state->def.w * kBaseUnitX / 4;
+    const int height = state->def.h * kBaseUnitY / 8;
+    window->handler->onClick(*window->dialog, id, x, y, width, height);
+}
+
+bool HeadlessBackend::answerFont(const std::optional<scenario::FontAnswer>& font) {
+    const auto window = ui_.top();
+    if (!window || !window->font) return false;
+    window->font->answered = true;
+    if (font) window->font->font = HeadlessUi::chosenFont(font->face, font->points, font->bold, font->italic);
+    else window->font->font.reset();
+    return true;
 }
 
 HeadlessRunner::HeadlessRunner(const ResourceSet& resources)

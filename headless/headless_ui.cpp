@@ -1,5 +1,7 @@
 #include "headless/headless_ui.h"
 
+#include <cstring>
+
 #include "tools/scenario/transcript.h"
 
 namespace kvs::headless {
@@ -54,6 +56,9 @@ void HeadlessUi::dismissTop() {
     } else if (window.chooser) {
         window.chooser->answered = true;
         window.chooser->path.reset();
+    } else if (window.font) {
+        window.font->answered = true;
+        window.font->font.reset();
     }
 }
 
@@ -62,7 +67,7 @@ int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler
     if (!found) return -1;
     DialogWindow window{std::make_unique<HeadlessDialog>(*found), &handler};
     transcript_("dialog " + quote(window.dialog->caption()));
-    stack_.push_back(Window{&window, nullptr, nullptr});
+    stack_.push_back(Window{&window, nullptr, nullptr, nullptr});
     const int focus = handler.onInit(*window.dialog);
     (void)focus;
     pumpUntil([&] { return window.dialog->ended(); });
@@ -74,7 +79,7 @@ int HeadlessUi::messageBox(const MessageRequest& request) {
     MessageWindow window{request, 0};
     const std::string caption = request.caption ? *request.caption : kDefaultMessageCaption;
     transcript_("message " + quote(caption) + " " + iconName(request.icon) + " " + quote(request.text));
-    stack_.push_back(Window{nullptr, &window, nullptr});
+    stack_.push_back(Window{nullptr, &window, nullptr, nullptr});
     pumpUntil([&] { return window.answer != 0; });
     stack_.pop_back();
     return window.answer;
@@ -84,7 +89,7 @@ std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
     ChooserWindow window{request, false, std::nullopt};
     transcript_(std::string("chooser ") + (request.save ? "save " : "open ") + quote(request.title) + " " +
                 quote(shownName(request.initialName)));
-    stack_.push_back(Window{nullptr, nullptr, &window});
+    stack_.push_back(Window{nullptr, nullptr, &window, nullptr});
     pumpUntil([&] { return window.answered; });
     stack_.pop_back();
     if (!window.path) return std::nullopt;
@@ -142,6 +147,40 @@ std::string HeadlessUi::addedExtension(const FileRequest& request) {
     const std::string extension = pattern.substr(dot + 1);
     if (extension.empty() || extension.find_first_of("*?") != std::string::npos) return request.defaultExtension;
     return extension;
+}
+
+BitmapRef HeadlessUi::loadBitmap(std::string_view name) {
+    return resources_.hasBitmap(name) ? ++nextBitmap_ : 0;
+}
+
+// Windows' default scheme: black window text, white highlighted text.
+std::uint32_t HeadlessUi::systemColour(SystemColour which) {
+    return which == SystemColour::HighlightText ? 0x00FFFFFFu : 0x00000000u;
+}
+
+KvsLogFont HeadlessUi::chosenFont(const std::string& face, int points, bool bold, bool italic) {
+    KvsLogFont font{};
+    font.height = -((points * kPixelsPerInch + 36) / 72);
+    font.weight = bold ? 700 : 400;
+    font.italic = italic ? 255 : 0;
+    face.copy(font.faceName, sizeof font.faceName - 1);
+    return font;
+}
+
+// The line shows what the dialog opens with: its title, the face and the
+// size in points of the initial record, and its OK button's text.
+std::optional<KvsLogFont> HeadlessUi::chooseFont(const FontRequest& request) {
+    FontWindow window{request, false, std::nullopt};
+    const KvsLogFont& initial = request.initial;
+    const std::string face(initial.faceName, strnlen(initial.faceName, sizeof initial.faceName));
+    const int height = initial.height < 0 ? -initial.height : initial.height;
+    const int points = (height * 72 + kPixelsPerInch / 2) / kPixelsPerInch;
+    transcript_("fontchooser " + quote(kFontChooserTitle) + " " + quote(face) + " " + std::to_string(points) + " " +
+                quote(request.okText.empty() ? "OK" : request.okText));
+    stack_.push_back(Window{nullptr, nullptr, nullptr, &window});
+    pumpUntil([&] { return window.answered; });
+    stack_.pop_back();
+    return window.font;
 }
 
 }  // namespace kvs::headless

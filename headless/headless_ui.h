@@ -39,10 +39,17 @@ struct ChooserWindow {
     std::optional<std::string> path;
 };
 
+struct FontWindow {
+    FontRequest request;
+    bool answered = false;
+    std::optional<KvsLogFont> font;
+};
+
 struct Window {
     DialogWindow* dialog = nullptr;
     MessageWindow* message = nullptr;
     ChooserWindow* chooser = nullptr;
+    FontWindow* font = nullptr;
 };
 
 using TranscriptSink = std::function<void(const std::string&)>;
@@ -71,6 +78,20 @@ public:
     std::uintptr_t beginWait() override { return 0; }
     void endWait(std::uintptr_t) override {}
     void beep() override {}
+    // A bitmap is there when the resource scripts name it; the handle is a
+    // number of its own for each load.
+    BitmapRef loadBitmap(std::string_view name) override;
+    void deleteBitmap(BitmapRef) override {}
+    std::uint32_t systemColour(SystemColour which) override;
+    int screenPixelsPerInchY() override { return kPixelsPerInch; }
+    std::optional<KvsLogFont> chooseFont(const FontRequest& request) override;
+
+    // The screen of the headless backend: 96 pixels per inch, as Wine's.
+    static constexpr int kPixelsPerInch = 96;
+    // The font dialog's title, as Windows and Wine give it.
+    static constexpr const char* kFontChooserTitle = "Font";
+    // The record the font dialog returns for a face, a size and a style.
+    static KvsLogFont chosenFont(const std::string& face, int points, bool bold, bool italic);
 
     // What the common file dialog returns for a typed name: the default
     // extension is added to a name without one.
@@ -92,6 +113,7 @@ private:
     Driver driver_;
     std::string ownerTitle_;
     std::vector<Window> stack_;
+    BitmapRef nextBitmap_ = 0x1000;
 };
 
 }  // namespace kvs::headless

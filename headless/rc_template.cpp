@@ -629,6 +629,7 @@ struct Collected {
     std::map<std::string, std::size_t> dialogIndex;
     std::map<std::string, std::size_t> menuIndex;
     std::map<int, std::string> strings;
+    std::set<std::string> bitmaps;  // upper-cased names
 };
 
 enum class Shape {
@@ -714,7 +715,11 @@ private:
         const Token& type = next();
         if (isKeyword(type, "DIALOG") || isKeyword(type, "DIALOGEX")) return dialog(nameToken, name, isKeyword(type, "DIALOGEX"));
         if (isKeyword(type, "MENU") || isKeyword(type, "MENUEX")) return menu(nameToken, name, isKeyword(type, "MENUEX"));
-        if (isKeyword(type, "BITMAP") || isKeyword(type, "ICON") || isKeyword(type, "CURSOR")) return fileResource();
+        if (isKeyword(type, "BITMAP")) {
+            out_.bitmaps.insert(upperCase(name));
+            return fileResource();
+        }
+        if (isKeyword(type, "ICON") || isKeyword(type, "CURSOR")) return fileResource();
         error(type, "unknown resource type " + describe(type) + " for '" + name + "'");
     }
 
@@ -1133,7 +1138,10 @@ void ResourceSet::load(const ResourceFiles& files) {
     dialogIndex_ = std::move(all.dialogIndex);
     menuIndex_ = std::move(all.menuIndex);
     strings_ = std::move(all.strings);
+    bitmaps_ = std::move(all.bitmaps);
 }
+
+bool ResourceSet::hasBitmap(std::string_view name) const { return bitmaps_.count(upperCase(name)) != 0; }
 
 const DialogTemplate* ResourceSet::dialog(std::string_view name) const {
     const auto it = dialogIndex_.find(upperCase(name));

@@ -6,13 +6,15 @@
 // uses: a small preprocessor (#include of files in the given set, object-like
 // #define, #undef, #if/#ifdef/#ifndef/#elif/#else/#endif, comments), DIALOG
 // and DIALOGEX with their control statements, MENU and MENUEX, STRINGTABLE,
-// and file resources (BITMAP, ICON, CURSOR), which are skipped. RC_INVOKED is
+// and file resources (BITMAP, ICON, CURSOR), of which only the names of the
+// bitmaps are kept. RC_INVOKED is
 // never defined here, so headers can give the reader its own definitions.
 // Anything else is an error "file:line: message" thrown as std::runtime_error.
 #pragma once
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -105,6 +107,8 @@ public:
     const MenuTemplate* menu(std::string_view name) const;
     // A STRINGTABLE entry, or null.
     const std::string* stringText(int id) const;
+    // Whether a BITMAP resource of this name exists (its file is not read).
+    bool hasBitmap(std::string_view name) const;
 
     std::vector<std::string> dialogNames() const;  // in file order
     std::vector<std::string> menuNames() const;
@@ -115,6 +119,7 @@ private:
     std::map<std::string, std::size_t> dialogIndex_;  // upper-cased name -> dialogs_
     std::map<std::string, std::size_t> menuIndex_;
     std::map<int, std::string> strings_;
+    std::set<std::string> bitmaps_;  // upper-cased names
 };
 
 }  // namespace kvs::headless

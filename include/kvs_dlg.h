@@ -65,7 +65,7 @@ KVS_EXPORT int32_t KVS_CALL TRAXCallDialog(uint32_t commandId, int32_t value, co
 
 /* Colour picker: on OK stores the chosen value (0 to 1) through colour and
  * returns 1; on Cancel leaves it and returns 0. */
-KVS_EXPORT int32_t KVS_CALL ColorPickerDialogEx(KvsWindow owner, double* colour);
+KVS_EXPORT int32_t KVS_CALL ColorPickerDialogEx(KvsWindow owner, float* colour);
 
 /* Stores the address of the library's table of 22 symbol bitmaps through
  * table and returns 22. The table and bitmaps stay the library's; release

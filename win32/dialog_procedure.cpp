@@ -1,6 +1,7 @@
 #include "win32/dialog_procedure.h"
 
 #include "resources/common_ids.h"
+#include "win32/colour_grid_window.h"
 #include "win32/owner_drawn_button.h"
 
 namespace kvs::win32 {
@@ -70,6 +71,13 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         return TRUE;
     case WM_DRAWITEM:
         return lParam && drawOwnerDrawnButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
+    case kColourGridClick: {
+        RECT client{};
+        GetClientRect(GetDlgItem(dialog, static_cast<int>(wParam)), &client);
+        const POINTS at = MAKEPOINTS(lParam);
+        session->handler->onClick(view, static_cast<int>(wParam), at.x, at.y, client.right, client.bottom);
+        return TRUE;
+    }
     case WM_DESTROY:
         activeDialog = session->previousActive;
         return FALSE;

@@ -3,6 +3,7 @@
 
 #include "core/lifecycle.h"
 #include "core/seam.h"
+#include "win32/colour_grid_window.h"
 #include "win32/graph_resources.h"
 #include "win32/microscroll.h"
 #include "win32/module_instance.h"
@@ -17,6 +18,7 @@ void attach(HINSTANCE instance) {
     kvs::win32::allocatePatternBlock();
     // Registering again fails because the class exists; that is expected.
     kvs::win32::registerMicroscroll(instance);
+    kvs::win32::registerColourGrid(instance);
     kvs::setUi(&kvs::win32::win32Ui());
     kvs::onLibraryLoad();
 }
@@ -27,7 +29,10 @@ void detach(bool processEnding) {
     // A class of a DLL outlives the DLL; after a FreeLibrary its window
     // procedure would point into unmapped code when the library is loaded
     // again elsewhere.
-    if (!processEnding) kvs::win32::unregisterMicroscroll(kvs::win32::moduleInstance());
+    if (!processEnding) {
+        kvs::win32::unregisterMicroscroll(kvs::win32::moduleInstance());
+        kvs::win32::unregisterColourGrid(kvs::win32::moduleInstance());
+    }
 }
 
 }  // namespace

@@ -17,15 +17,4 @@ intptr_t KVS_CALL ProcessDlgProc(KvsWindow, uint32_t, uintptr_t, intptr_t) { ret
 
 int32_t KVS_CALL TRAXCallDialog(uint32_t, int32_t, const char*, int32_t, int32_t) { return 0; }
 
-// As a cancelled picker: the colour is left as it is.
-int32_t KVS_CALL ColorPickerDialogEx(KvsWindow, double*) { return 0; }
-
-// No bitmaps: an empty table and a count of 0.
-int32_t KVS_CALL LoadSymbolBitmapsEx(void** table) {
-    if (table) *table = nullptr;
-    return 0;
-}
-
-void KVS_CALL DeleteSymbolBitmapsEx(void) {}
-
 }  // extern "C"

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstring>
 
 #include "core/file_filters.h"
 #include "win32/dialog_procedure.h"
@@ -46,6 +47,18 @@ std::string fitted(const std::string& text, std::size_t capacity) {
     if (capacity == 0) return {};
     if (out.size() >= capacity) out.resize(capacity - 1);
     return out;
+}
+
+static_assert(sizeof(KvsLogFont) == sizeof(LOGFONTA));
+
+// Gives the font dialog's OK button the text the request asks for.
+UINT_PTR CALLBACK fontHook(HWND dialog, UINT message, WPARAM, LPARAM lParam) {
+    if (message == WM_INITDIALOG && lParam) {
+        const auto* chooser = reinterpret_cast<const CHOOSEFONTA*>(lParam);
+        const auto* request = reinterpret_cast<const FontRequest*>(chooser->lCustData);
+        if (request && !request->okText.empty()) SetDlgItemTextA(dialog, IDOK, request->okText.c_str());
+    }
+    return 0;  // the dialog's own processing follows
 }
 
 }  // namespace
@@ -128,5 +141,42 @@ std::uintptr_t Win32Ui::beginWait() {
 void Win32Ui::endWait(std::uintptr_t previous) { SetCursor(reinterpret_cast<HCURSOR>(previous)); }
 
 void Win32Ui::beep() { MessageBeep(MB_OK); }
+
+BitmapRef Win32Ui::loadBitmap(std::string_view name) {
+    const std::string resource(name);
+    return reinterpret_cast<BitmapRef>(LoadBitmapA(moduleInstance(), resource.c_str()));
+}
+
+void Win32Ui::deleteBitmap(BitmapRef bitmap) {
+    if (bitmap) DeleteObject(reinterpret_cast<HBITMAP>(bitmap));
+}
+
+std::uint32_t Win32Ui::systemColour(SystemColour which) {
+    return GetSysColor(which == SystemColour::HighlightText ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT);
+}
+
+int Win32Ui::screenPixelsPerInchY() {
+    HDC screen = GetDC(nullptr);
+    if (!screen) return 96;
+    const int pixels = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+std::optional<KvsLogFont> Win32Ui::chooseFont(const FontRequest& request) {
+    LOGFONTA font;
+    std::memcpy(&font, &request.initial, sizeof font);
+    CHOOSEFONTA chooser{};
+    chooser.lStructSize = sizeof chooser;
+    chooser.hwndOwner = windowOf(request.owner);
+    chooser.lpLogFont = &font;
+    chooser.Flags = CF_SCREENFONTS | CF_TTONLY | CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK;
+    chooser.lCustData = reinterpret_cast<LPARAM>(&request);
+    chooser.lpfnHook = fontHook;
+    if (!ChooseFontA(&chooser)) return std::nullopt;
+    KvsLogFont chosen;
+    std::memcpy(&chosen, &font, sizeof chosen);
+    return chosen;
+}
 
 }  // namespace kvs::win32

@@ -16,6 +16,11 @@ public:
     std::uintptr_t beginWait() override;
     void endWait(std::uintptr_t previous) override;
     void beep() override;
+    BitmapRef loadBitmap(std::string_view name) override;
+    void deleteBitmap(BitmapRef bitmap) override;
+    std::uint32_t systemColour(SystemColour which) override;
+    int screenPixelsPerInchY() override;
+    std::optional<KvsLogFont> chooseFont(const FontRequest& request) override;
 };
 
 // The services installed at load.

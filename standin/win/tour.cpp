@@ -54,7 +54,9 @@ private:
 
 void Tour::onTick(HWND top) {
     if (!top) return;
-    if (roleOf(top, library_.module()) == scenario::WindowKind::Dialog && !shot_) {
+    const scenario::WindowKind kind = roleOf(top, library_.module());
+    const bool pictured = kind == scenario::WindowKind::Dialog || kind == scenario::WindowKind::FontChooser;
+    if (pictured && !shot_) {
         if (++settle_ < kSettleTicks) return;
         const std::string path = outDir_ + "\\" + shotName_ + ".bmp";
         if (!saveWindowBitmap(top, path)) emit("error " + scenario::quote("cannot save " + path));
@@ -101,6 +103,15 @@ int Tour::run() {
     if (exports.doImpExpOptionsDlg)
         visit("export-IDD_OPTIONSIMPORTEXPORT", [&] {
             return "DoImpExpOptionsDlg 0 = " + std::to_string(exports.doImpExpOptionsDlg(owner_, 0, 0));
+        });
+    // The font chooser of the graph font command.
+    visit("0150-Font", [&] {
+        return "StartDialog 150 = " + std::to_string(library_.startDialog(150, owner_, kSampleHelpFile));
+    });
+    if (const auto picker = exports.colorPickerDialogEx)
+        visit("export-ColorPicker", [&] {
+            float colour = 0.5f;
+            return "ColorPickerDialogEx = " + std::to_string(picker(owner_, &colour));
         });
     watch_.stop();
     HostState::instance().setSink(nullptr);

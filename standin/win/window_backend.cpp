@@ -4,6 +4,7 @@
 #include "standin/win/control_probe.h"
 #include "standin/win/kernel_control.h"
 #include "standin/win/window_roles.h"
+#include "win32/control_reading.h"
 
 namespace kvs::standin {
 
@@ -160,6 +161,71 @@ void WindowBackend::answerChooser(const std::optional<std::string>& path) {
     if (button) SendMessageA(button, BM_CLICK, 0, 0);
 }
 
+// The grid reads the point from the mouse messages themselves.
+void WindowBackend::clickAt(int id, int x, int y) {
+    const HWND control = item(id);
+    if (!control) return;
+    const LPARAM at = MAKELPARAM(static_cast<WORD>(x), static_cast<WORD>(y));
+    SendMessageA(control, WM_LBUTTONDOWN, MK_LBUTTON, at);
+    if (IsWindow(control)) SendMessageA(control, WM_LBUTTONUP, 0, at);
+}
+
+namespace {
+
+// Selects an entry of one of the font dialog's combo boxes as a user's
+// click would, with the notification.
+bool pickEntry(HWND chooser, int comboId, int index) {
+    const HWND combo = GetDlgItem(chooser, comboId);
+    if (!combo || index < 0) return false;
+    SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendMessageA(chooser, WM_COMMAND, MAKEWPARAM(static_cast<WORD>(comboId), CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(combo));
+    return true;
+}
+
+int findExact(HWND chooser, int comboId, const std::string& text) {
+    const auto found = SendDlgItemMessageA(chooser, comboId, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                           reinterpret_cast<LPARAM>(text.c_str()));
+    return found == CB_ERR ? -1 : static_cast<int>(found);
+}
+
+// The style entry that is bold and italic as asked ("Regular", "Italic",
+// "Bold", "Bold Italic", or a face's own names such as "Oblique").
+int findStyle(HWND chooser, bool bold, bool italic) {
+    const HWND combo = GetDlgItem(chooser, kFontStyleCombo);
+    const auto count = static_cast<int>(SendMessageA(combo, CB_GETCOUNT, 0, 0));
+    for (int i = 0; i < count; ++i) {
+        const std::string name = win32::itemText(combo, CB_GETLBTEXTLEN, CB_GETLBTEXT, i);
+        const bool isBold = name.find("Bold") != std::string::npos;
+        const bool isItalic = name.find("Italic") != std::string::npos || name.find("Oblique") != std::string::npos;
+        if (isBold == bold && isItalic == italic) return i;
+    }
+    return -1;
+}
+
+}  // namespace
+
+bool WindowBackend::answerFont(const std::optional<scenario::FontAnswer>& font) {
+    const HWND chooser = topDialogWindow();
+    if (roleOf(chooser, library_.module()) != WindowKind::FontChooser) return false;
+    if (!font) {
+        SendMessageA(GetDlgItem(chooser, IDCANCEL), BM_CLICK, 0, 0);
+        return true;
+    }
+    if (!pickEntry(chooser, kFontFaceCombo, findExact(chooser, kFontFaceCombo, font->face))) return false;
+    if (!pickEntry(chooser, kFontStyleCombo, findStyle(chooser, font->bold, font->italic))) return false;
+    const std::string size = std::to_string(font->points);
+    const int sizeEntry = findExact(chooser, kFontSizeCombo, size);
+    if (sizeEntry >= 0) {
+        pickEntry(chooser, kFontSizeCombo, sizeEntry);
+    } else {
+        SetDlgItemTextA(chooser, kFontSizeCombo, size.c_str());
+        notify(chooser, kFontSizeCombo, CBN_EDITCHANGE);
+    }
+    SendMessageA(GetDlgItem(chooser, IDOK), BM_CLICK, 0, 0);
+    return true;
+}
+
 void WindowBackend::dismissTop() {
     const HWND top = topDialogWindow();
     switch (roleOf(top, library_.module())) {
@@ -176,6 +242,7 @@ void WindowBackend::dismissTop() {
         break;
     }
     case WindowKind::Chooser: answerChooser(std::nullopt); break;
+    case WindowKind::FontChooser: answerFont(std::nullopt); break;
     case WindowKind::None: break;
     }
 }

@@ -42,6 +42,8 @@ public:
     scenario::Buttons messageButtons() override;
     void answerMessage(int buttonId) override;
     void answerChooser(const std::optional<std::string>& path) override;
+    void clickAt(int id, int x, int y) override;
+    bool answerFont(const std::optional<scenario::FontAnswer>& font) override;
     void dismissTop() override;
 
 private:

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "standin/win/label_text.h"
+#include "tools/scenario/transcript.h"
 
 namespace kvs::standin {
 
@@ -39,6 +40,8 @@ scenario::WindowKind roleOf(HWND window, HMODULE library) {
     if (library && instance == library) return scenario::WindowKind::Dialog;
     if (GetDlgItem(window, kChooserNameCombo) || GetDlgItem(window, kChooserNameEdit))
         return scenario::WindowKind::Chooser;
+    if (GetDlgItem(window, kFontFaceCombo) && GetDlgItem(window, kFontSizeCombo))
+        return scenario::WindowKind::FontChooser;
     const HWND text = GetDlgItem(window, kMessageTextId);
     if (text && hasClass(text, "Static")) return scenario::WindowKind::Message;
     return scenario::WindowKind::Dialog;
@@ -77,6 +80,13 @@ bool chooserSaves(HWND chooser) {
 std::string chooserName(HWND chooser) {
     const HWND combo = GetDlgItem(chooser, kChooserNameCombo);
     return windowText(combo ? combo : GetDlgItem(chooser, kChooserNameEdit));
+}
+
+std::string fontChooserLine(HWND chooser) {
+    return "fontchooser " + scenario::quote(windowText(chooser)) + " " +
+           scenario::quote(windowText(GetDlgItem(chooser, kFontFaceCombo))) + " " +
+           windowText(GetDlgItem(chooser, kFontSizeCombo)) + " " +
+           scenario::quote(labelText(windowText(GetDlgItem(chooser, IDOK))));
 }
 
 }  // namespace kvs::standin

@@ -16,6 +16,10 @@ namespace kvs::standin {
 // style's ComboBoxEx32 and the old style's edit.
 inline constexpr int kChooserNameCombo = 0x47C;
 inline constexpr int kChooserNameEdit = 0x480;
+// The font dialog's face, style and size combo boxes (cmb1 to cmb3).
+inline constexpr int kFontFaceCombo = 0x470;
+inline constexpr int kFontStyleCombo = 0x471;
+inline constexpr int kFontSizeCombo = 0x472;
 // A message box's text and icon statics.
 inline constexpr int kMessageTextId = 0xFFFF;
 inline constexpr int kMessageIconId = 0x440;
@@ -24,8 +28,9 @@ bool isDialogWindow(HWND window);  // a top-level #32770
 
 // What a #32770 is: a dialog when its instance is library (the module the
 // library's templates come from), a file dialog when it has a file-name
-// field, a message box when it has the message text static, and otherwise a
-// dialog of someone else's (the font dialog) that statements still act on.
+// field, the font dialog when it has the face and size combo boxes, a
+// message box when it has the message text static, and otherwise a dialog of
+// someone else's that statements still act on.
 scenario::WindowKind roleOf(HWND window, HMODULE library);
 
 // The topmost visible, enabled #32770 of this thread, or null. A modal window
@@ -45,5 +50,9 @@ scenario::Buttons messageButtons(HWND box);
 // file name it shows.
 bool chooserSaves(HWND chooser);
 std::string chooserName(HWND chooser);
+
+// The font dialog's transcript line: its title, the face and size it shows
+// and its OK button's text.
+std::string fontChooserLine(HWND chooser);
 
 }  // namespace kvs::standin

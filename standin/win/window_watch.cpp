@@ -57,6 +57,7 @@ LRESULT CALLBACK WindowWatch::afterProcedure(int code, WPARAM wParam, LPARAM lPa
             current->sink_("message " + quote(windowText(window)) + " " + messageIcon(window) + " " +
                            quote(messageText(window)));
             break;
+        case WindowKind::FontChooser: current->sink_(fontChooserLine(window)); break;
         case WindowKind::Chooser:
             current->sink_(std::string("chooser ") + (chooserSaves(window) ? "save " : "open ") +
                            quote(windowText(window)) + " " + quote(chooserName(window)));

@@ -106,6 +106,26 @@ TEST(RcTemplateResources, EveryDialogHasTheCommonButtons) {
     EXPECT_EQ(set.dialog("NOSUCH"), nullptr);
 }
 
+TEST(RcTemplateResources, BitmapNamesAreKeptWithoutTheirFiles) {
+    const ResourceSet set = parse(R"(symbol1 BITMAP "pictures/symbol1.bmp"
+"dash 2" BITMAP MOVEABLE "dash2.bmp"
+APP ICON "app.ico")");
+    EXPECT_TRUE(set.hasBitmap("symbol1"));
+    EXPECT_TRUE(set.hasBitmap("SYMBOL1"));
+    EXPECT_TRUE(set.hasBitmap("dash 2"));
+    EXPECT_FALSE(set.hasBitmap("APP"));
+    EXPECT_FALSE(set.hasBitmap("symbol2"));
+
+    ResourceSet real;
+    real.load(resourceDir());
+    for (const std::string prefix : {"symbol", "dash", "axes2d", "axes3d"})
+        EXPECT_TRUE(real.hasBitmap(prefix + "1")) << prefix;
+    EXPECT_TRUE(real.hasBitmap("symbol22"));
+    EXPECT_FALSE(real.hasBitmap("symbol23"));
+    EXPECT_TRUE(real.hasBitmap("axes3d8"));
+    EXPECT_FALSE(real.hasBitmap("axes3d9"));
+}
+
 // ---------------------------------------------------------------------------
 
 TEST(RcTemplatePreprocessor, DefinesConditionalsAndIncludes) {

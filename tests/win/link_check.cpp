@@ -11,6 +11,7 @@ extern "C" __declspec(dllexport) void touchEveryFunction(void) {
     char* block = nullptr;
     void* memory = nullptr;
     double matrix[1] = {1.0};
+    float colour = 0.5f;
 
     AddCmd(text, nullptr);
     AddTitle(text, text);
@@ -51,7 +52,7 @@ extern "C" __declspec(dllexport) void touchEveryFunction(void) {
     AttachSaveAsOptions(text);
     AttachImpExpOptions(text);
     TRAXCallDialog(0, 0, nullptr, 0, 0);
-    ColorPickerDialogEx(nullptr, matrix);
+    ColorPickerDialogEx(nullptr, &colour);
     LoadSymbolBitmapsEx(&memory);
     DeleteSymbolBitmapsEx();
 

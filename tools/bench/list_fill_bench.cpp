@@ -25,6 +25,11 @@ public:
     std::uintptr_t beginWait() override { return 0; }
     void endWait(std::uintptr_t) override {}
     void beep() override {}
+    kvs::BitmapRef loadBitmap(std::string_view) override { return 0; }
+    void deleteBitmap(kvs::BitmapRef) override {}
+    std::uint32_t systemColour(kvs::SystemColour) override { return 0; }
+    int screenPixelsPerInchY() override { return 96; }
+    std::optional<KvsLogFont> chooseFont(const kvs::FontRequest&) override { return std::nullopt; }
 };
 
 double millisecondsSince(std::chrono::steady_clock::time_point start) {

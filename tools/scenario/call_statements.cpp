@@ -11,6 +11,10 @@ constexpr CallStatement kCalls[] = {
     {"attachsaveas", runAttachSaveAs},
     {"impexpoptions", runImpExpOptions},
     {"attachimpexp", runAttachImpExp},
+    {"colorpicker", runColourPicker},
+    {"symbols", runSymbols},
+    {"showfont", runShowFont},
+    {"deffont", runDefaultFont},
 };
 
 }  // namespace

@@ -46,4 +46,10 @@ void runAttachSaveAs(CallContext&);
 void runImpExpOptions(CallContext&);
 void runAttachImpExp(CallContext&);
 
+// Statements of the colour picker, the symbol pictures and the graph fonts.
+void runColourPicker(CallContext&);
+void runSymbols(CallContext&);
+void runShowFont(CallContext&);
+void runDefaultFont(CallContext&);
+
 }  // namespace kvs::scenario

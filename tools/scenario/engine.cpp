@@ -79,6 +79,7 @@ std::string Engine::describeTop() {
     case WindowKind::Dialog: return "dialog " + quote(backend_.topText());
     case WindowKind::Message: return "message box " + quote(backend_.topText());
     case WindowKind::Chooser: return "file chooser " + quote(backend_.topText());
+    case WindowKind::FontChooser: return "font chooser " + quote(backend_.topText());
     case WindowKind::None: break;
     }
     return "nothing";
@@ -99,6 +100,7 @@ bool Engine::step() {
     case WindowKind::Dialog: actOnDialog(statement); break;
     case WindowKind::Message: actOnMessage(statement); break;
     case WindowKind::Chooser: actOnChooser(statement); break;
+    case WindowKind::FontChooser: actOnFontChooser(statement); break;
     case WindowKind::None: fail(statement, "no window is open for '" + statement.keyword + "'"); break;
     }
     return true;
@@ -260,6 +262,15 @@ void Engine::actOnDialog(const Statement& s) {
         else backend_.chooseEntry(id, entry);
     } else if (k == "show") {
         if (const int id = needControl(0)) emit_(describeControl(id, *backend_.control(id)));
+    } else if (k == "clickat") {
+        const int id = needControl(0);
+        if (!id) return;
+        const auto x = s.args.size() == 3 ? toNumber(s.args[1].text) : std::nullopt;
+        const auto y = s.args.size() == 3 ? toNumber(s.args[2].text) : std::nullopt;
+        const auto control = backend_.control(id);
+        if (!x || !y) fail(s, "clickat needs a control and a point X Y");
+        else if (!control->enabled) fail(s, "control " + std::to_string(id) + " is disabled");
+        else backend_.clickAt(id, static_cast<int>(*x), static_cast<int>(*y));
     } else if (k == "syscommand") {
         const auto code = s.args.empty() ? std::nullopt : toNumber(s.args[0].text);
         if (!code) fail(s, "syscommand takes a number");
@@ -292,6 +303,26 @@ void Engine::actOnChooser(const Statement& s) {
     }
     if (s.args[0].quoted) backend_.answerChooser(s.args[0].text);
     else backend_.answerChooser(std::nullopt);
+}
+
+// font "FACE" POINTS [bold] [italic] | font cancel
+void Engine::actOnFontChooser(const Statement& s) {
+    const auto usage = [&] { fail(s, "a font chooser is up: answer it with font \"FACE\" POINTS [bold] [italic] or font cancel"); };
+    if (s.keyword != "font" || s.args.empty()) return usage();
+    if (!s.args[0].quoted) {
+        if (s.args.size() != 1 || s.args[0].text != "cancel") return usage();
+        backend_.answerFont(std::nullopt);
+        return;
+    }
+    const auto points = s.args.size() >= 2 && !s.args[1].quoted ? toNumber(s.args[1].text) : std::nullopt;
+    if (!points || *points <= 0) return usage();
+    FontAnswer answer{s.args[0].text, static_cast<int>(*points), false, false};
+    for (std::size_t i = 2; i < s.args.size(); ++i) {
+        if (s.args[i].text == "bold" && !s.args[i].quoted) answer.bold = true;
+        else if (s.args[i].text == "italic" && !s.args[i].quoted) answer.italic = true;
+        else return usage();
+    }
+    if (!backend_.answerFont(answer)) fail(s, "the font chooser does not offer " + quote(answer.face) + " in that style");
 }
 
 }  // namespace kvs::scenario

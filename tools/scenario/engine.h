@@ -18,7 +18,7 @@ namespace kvs::scenario {
 
 struct LibraryExports;
 
-enum class WindowKind { None, Dialog, Message, Chooser };
+enum class WindowKind { None, Dialog, Message, Chooser, FontChooser };
 enum class ControlKind { Static, Button, Edit, ListBox, ComboBox, Other };
 enum class Buttons { Ok, OkCancel, YesNo };
 
@@ -31,6 +31,14 @@ struct ControlInfo {
     std::string text;         // window text; a combo box's edit text
     std::vector<std::string> items;  // list and combo box entries
     int comboSelection = -1;
+};
+
+// What a user picks in the font chooser.
+struct FontAnswer {
+    std::string face;
+    int points = 0;
+    bool bold = false;
+    bool italic = false;
 };
 
 // The host, the kernel and the topmost library window, as one backend
@@ -75,6 +83,12 @@ public:
     virtual void answerMessage(int buttonId) = 0;
     // A path, or nothing to cancel.
     virtual void answerChooser(const std::optional<std::string>& path) = 0;
+    // A press and release of the left mouse button at (x, y) in the client
+    // area of a control.
+    virtual void clickAt(int id, int x, int y) = 0;
+    // Picks a font and presses OK, or cancels with nothing; false (and no
+    // answer) when the chooser does not offer the face or style.
+    virtual bool answerFont(const std::optional<FontAnswer>& font) = 0;
     // Closes the topmost window as a user giving up would.
     virtual void dismissTop() = 0;
 };
@@ -101,6 +115,7 @@ private:
     void actOnDialog(const Statement& statement);
     void actOnMessage(const Statement& statement);
     void actOnChooser(const Statement& statement);
+    void actOnFontChooser(const Statement& statement);
     int controlId(const Token& token);
     void fail(const Statement& statement, const std::string& message);
     std::string describeTop();

@@ -40,6 +40,13 @@ kvs_wine_prefix() {
       mkdir -p "$WINEPREFIX/drive_c/TEMP"
       touch "$WINEPREFIX/.kvs-ready"
     fi
+    # The graph font chooser opens at Arial: Wine offers it under that name
+    # when it is a replacement for the metric-compatible Liberation Sans.
+    if [ ! -f "$WINEPREFIX/.kvs-fonts" ]; then
+      kvs_wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v Arial /d 'Liberation Sans' /f >/dev/null 2>&1
+      wineserver -w
+      touch "$WINEPREFIX/.kvs-fonts"
+    fi
   ) 9>"$WINEPREFIX.lock"
 }
 
