@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <filesystem>
 #include <random>
 #include <stdexcept>
@@ -92,10 +94,14 @@ TEST(RcTemplateResources, SortTemplateHasItsControls) {
 TEST(RcTemplateResources, EveryDialogHasTheCommonButtons) {
     ResourceSet set;
     set.load(resourceDir());
-    EXPECT_EQ(set.dialogNames(), (std::vector<std::string>{"SORT", "RANK", "TRANSPOSE"}));
-    for (const std::string& name : set.dialogNames()) {
+    const std::vector<std::string> names = set.dialogNames();
+    for (const std::string& name : names) {
         const DialogTemplate* d = set.dialog(name);
-        for (int id : {1, 2, 4, 6, 7, 10, 12, 99}) EXPECT_NO_THROW(byId(*d, id)) << name << " " << id;
+        for (int id : {1, 2, 12}) EXPECT_NO_THROW(byId(*d, id)) << name << " " << id;
+    }
+    for (const char* name : {"SORT", "RANK", "TRANSPOSE"}) {
+        ASSERT_NE(std::find(names.begin(), names.end(), name), names.end()) << name;
+        for (int id : {4, 6, 7, 10, 99}) EXPECT_NO_THROW(byId(*set.dialog(name), id)) << name << " " << id;
     }
     EXPECT_EQ(set.dialog("Rank")->caption, "Rank");
     EXPECT_EQ(set.dialog("NOSUCH"), nullptr);
