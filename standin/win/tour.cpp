@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "core/dispatch_table.h"
+#include "data/listing_launch.h"
 #include "standin/host_state.h"
 #include "standin/win/bitmap_file.h"
 #include "standin/win/help_catcher.h"
@@ -36,6 +37,8 @@ private:
         std::fflush(log_);
     }
     void onTick(HWND top);
+    std::string picturePath(const DispatchRow& row) const;
+    void pictureOfUnlisted();
 
     std::string outDir_;
     std::FILE* log_;
@@ -49,17 +52,45 @@ private:
     int settle_ = 0;
 };
 
+std::string Tour::picturePath(const DispatchRow& row) const {
+    std::string id = std::to_string(row.id);
+    while (id.size() < 4) id.insert(id.begin(), '0');
+    return outDir_ + "\\" + id + "-" + row.templateName + ".bmp";
+}
+
 void Tour::onTick(HWND top) {
     if (!top) return;
     if (roleOf(top, library_.module()) == scenario::WindowKind::Dialog && !shot_ && row_) {
         if (++settle_ < kSettleTicks) return;
-        std::string id = std::to_string(row_->id);
-        while (id.size() < 4) id.insert(id.begin(), '0');
-        const std::string path = outDir_ + "\\" + id + "-" + row_->templateName + ".bmp";
+        const std::string path = picturePath(*row_);
         if (!saveWindowBitmap(top, path)) emit("error " + scenario::quote("cannot save " + path));
         shot_ = true;
     }
     backend_.dismissTop();
+}
+
+INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
+
+// The note, page-title and print-format templates, which no StartDialog
+// reaches: shown modeless under a procedure that does nothing, just for
+// their pictures.
+void Tour::pictureOfUnlisted() {
+    for (const std::uint16_t id : {51, 52, 53}) {
+        const DispatchRow* row = data::outputSettingsRow(id);
+        if (!row || !FindResourceA(library_.module(), row->templateName, RT_DIALOG)) continue;
+        const HWND dialog = CreateDialogParamA(library_.module(), row->templateName, owner_, pictureProcedure, 0);
+        if (!dialog) {
+            emit("error " + scenario::quote(std::string("cannot create ") + row->templateName));
+            continue;
+        }
+        ShowWindow(dialog, SW_SHOW);
+        UpdateWindow(dialog);
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
+        const std::string path = picturePath(*row);
+        if (!saveWindowBitmap(dialog, path)) emit("error " + scenario::quote("cannot save " + path));
+        DestroyWindow(dialog);
+    }
 }
 
 int Tour::run() {
@@ -83,6 +114,7 @@ int Tour::run() {
         emit("StartDialog " + std::to_string(row.id) + " = " + std::to_string(result));
     }
     watch_.stop();
+    pictureOfUnlisted();
     HostState::instance().setSink(nullptr);
     library_.unload();
     return 0;
