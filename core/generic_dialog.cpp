@@ -42,7 +42,12 @@ void GenericDialog::prepareTargets(DialogView& view) {
     targets_.clear();
     if (!d.first.exists) return;
     const int mode = row_.mode;
-    targets_.push_back({IDC_TARGET1, &d.first, mode == 0 ? 1 : d.firstCapacity, {}});
+    // A dialog that picks one variable shows the first selection in its
+    // one-variable list, which never holds more than one name.
+    if (!view.has(IDC_TARGET1) && view.has(IDC_ONE_VARIABLE))
+        targets_.push_back({IDC_ONE_VARIABLE, &d.first, 1, {}});
+    else
+        targets_.push_back({IDC_TARGET1, &d.first, mode == 0 ? 1 : d.firstCapacity, {}});
     view.enable(IDC_ADD1, false);
     view.enable(IDC_REMOVE1, false);
     if (d.second.exists) {

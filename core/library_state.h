@@ -19,7 +19,7 @@ struct LibraryState {
     std::int32_t sortList = 0;                  // SetDlgSortList
     bool dialogUp = false;                      // a library dialog or file chooser is up
     std::int32_t commandsQueued = 0;            // set by routines that queue outside a builder
-    std::int32_t dataCommand = 0;               // set by data dialogs that queue a data-handling command
+    std::int32_t dataCommand = 0;               // set to 1 when a data dialog queues a data command
     std::int32_t seriesMissingDelete = 0;       // 245 sets 1, 246 sets 0
     std::uint32_t helpContext = 0;              // help-context word of the open dialog
     WindowRef hostWindow = 0;                   // owner given to the running StartDialog

@@ -7,7 +7,7 @@
 #include "data/data_texts.h"
 #include "data/join_names.h"
 #include "data/key_selection.h"
-#include "data/quote_file_name.h"
+#include "data/text_pieces.h"
 #include "data/save_file_step.h"
 #include "resources/data_files_ids.h"
 

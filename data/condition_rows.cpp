@@ -17,24 +17,10 @@ ConditionState state;
 ConditionState& conditionState() { return state; }
 void resetConditionDefaults() { state = ConditionState{}; }
 
-bool hasText(std::string_view text) { return text.find_first_not_of(' ') != std::string_view::npos; }
-
-std::string bounded(std::string_view text, std::size_t bound) { return std::string(text.substr(0, bound)); }
-
 bool isCharacterExpression(std::string_view value) {
     if (value.find_first_of("\"'$") != std::string_view::npos) return true;
     return std::any_of(text::kCharacterFunctions.begin(), text::kCharacterFunctions.end(),
                        [value](std::string_view name) { return value.find(name) != std::string_view::npos; });
-}
-
-std::string quoted(std::string_view value) {
-    const char quote = value.find('"') == std::string_view::npos ? '"' : '\'';
-    std::string out;
-    out.reserve(value.size() + 2);
-    out += quote;
-    out += value;
-    out += quote;
-    return out;
 }
 
 int variableField(int row) { return IDC_ROW_VARIABLE1 + row; }

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/dialog_behaviour.h"
+#include "data/text_pieces.h"
 
 namespace kvs::data {
 
@@ -40,15 +41,9 @@ struct ConditionState {
 ConditionState& conditionState();
 void resetConditionDefaults();
 
-// True when the text holds something other than blanks.
-bool hasText(std::string_view text);
-// The first bound characters of text.
-std::string bounded(std::string_view text, std::size_t bound);
 // A value that already is a character expression: it holds a quote, an
 // apostrophe, a "$" or the name of a character function.
 bool isCharacterExpression(std::string_view value);
-// The value in double quotes, or in apostrophes when it holds a double quote.
-std::string quoted(std::string_view value);
 // An entry of a fixed table of drop-down texts; empty when out of range.
 template <std::size_t N>
 std::string_view entryAt(const std::array<std::string_view, N>& entries, int position) {

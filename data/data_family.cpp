@@ -7,14 +7,21 @@
 #include "data/conditional_assignment.h"
 #include "data/append_merge.h"
 #include "data/key_selection.h"
+#include "data/listing_dialogs.h"
 #include "data/sort_rank_transpose.h"
+#include "resources/data_listing_ids.h"
 
 namespace kvs::data {
 
 DescriptorSettings descriptorSettings(std::uint16_t commandId) {
     DescriptorSettings settings;
     switch (commandId) {
-    case 70:  // Standardize, Rank and Transpose work on numbers only
+    // Standardize, Rank and Transpose work on numbers only; Standardize
+    // keeps its method in its extra word.
+    case 70:
+        settings.switch1 = 1;
+        settings.extra[0] = IDC_STANDARDIZE_SD;
+        break;
     case 71:
     case 75: settings.switch1 = 1; break;
     default: break;
@@ -24,15 +31,29 @@ DescriptorSettings descriptorSettings(std::uint16_t commandId) {
 
 DialogBehaviour* behaviour(std::uint16_t commandId) {
     switch (commandId) {
+    case 43: return &listCasesBehaviour();
+    case 45: return &byGroupsBehaviour();
     case 46: return &selectBehaviour();
+    case 47: return &weightBehaviour();
+    case 51: return &noteBehaviour();
+    case 52: return &pageTitleBehaviour();
+    case 53: return &printFormatBehaviour();
     case 67: return &letBehaviour();
     case 69: return &ifThenLetBehaviour();
+    case 70: return &standardizeBehaviour();
     case 71: return &rankBehaviour();
     case 72: return &sortBehaviour();
     case 73: return &appendBehaviour();
     case 74: return &mergeBehaviour();
     case 75: return &transposeBehaviour();
+    case 77: return &idVariableBehaviour();
+    case 83: return &orderBehaviour();
+    case 84: return &categoryBehaviour();
+    case 85: return &frequencyBehaviour();
+    case 87: return &basicBehaviour();
+    case 88: return &matrixBehaviour();
     case kKeySelectionId: return &keySelectionBehaviour();
+    case 92: return &reshapeBehaviour();
     default: return nullptr;
     }
 }
@@ -42,6 +63,7 @@ void addDefaults(DefaultsTable& table) {
     table.routine([](bool) { resetConditionDefaults(); });
     table.routine([](bool) { resetAppendMergeDefaults(); });
     table.routine([](bool) { resetKeySelection(); });
+    table.routine([](bool) { resetListingDefaults(); });
 }
 
 }  // namespace kvs::data

@@ -10,7 +10,7 @@
 #include "core/messages.h"
 #include "data/data_texts.h"
 #include "data/option_dialogs.h"
-#include "data/quote_file_name.h"
+#include "data/text_pieces.h"
 #include "resources/options_ids.h"
 
 namespace kvs::data {
@@ -91,9 +91,9 @@ private:
         state.allCases = view.isChecked(IDC_IMPEXP_ALLCASES) ? 1 : 0;
         state.allColumns = view.isChecked(IDC_IMPEXP_ALLCOLUMNS) ? 1 : 0;
         const bool casesMissing =
-            !state.allCases && (isBlankName(view.text(IDC_IMPEXP_FIRSTCASE)) || isBlankName(view.text(IDC_IMPEXP_LASTCASE)));
-        const bool columnsMissing = !state.allColumns && (isBlankName(view.text(IDC_IMPEXP_FIRSTCOLUMN)) ||
-                                                          isBlankName(view.text(IDC_IMPEXP_LASTCOLUMN)));
+            !state.allCases && (isBlank(view.text(IDC_IMPEXP_FIRSTCASE)) || isBlank(view.text(IDC_IMPEXP_LASTCASE)));
+        const bool columnsMissing = !state.allColumns && (isBlank(view.text(IDC_IMPEXP_FIRSTCOLUMN)) ||
+                                                          isBlank(view.text(IDC_IMPEXP_LASTCOLUMN)));
         if (casesMissing || columnsMissing) {
             showStop(ui().focusWindow(), kvs::text::kProvideMoreInput);
             return;

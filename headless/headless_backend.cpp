@@ -1,6 +1,10 @@
 #include "headless/headless_backend.h"
 
+#include "core/command_queue.h"
+#include "core/launcher.h"
+#include "core/library_state.h"
 #include "core/lifecycle.h"
+#include "data/listing_launch.h"
 #include "include/kvs_dlg.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
@@ -65,6 +69,25 @@ KvsWindow HeadlessBackend::ownerWindow() { return kOwner; }
 
 std::int32_t HeadlessBackend::startDialog(std::uint32_t id, const std::string& helpFile) {
     return StartDialog(id, kOwner, helpFile.c_str());
+}
+
+std::optional<std::int32_t> HeadlessBackend::launchUnlisted(std::uint32_t id, const std::string& helpFile) {
+    const auto commandId = static_cast<std::uint16_t>(id);
+    const DispatchRow* row = data::outputSettingsRow(commandId);
+    Descriptor* descriptor = data::outputSettingsDescriptor(commandId);
+    if (!row || !descriptor) return std::nullopt;
+    // What StartDialog does around a case: the help path, the current id, and
+    // afterwards the hand-off of the queue and the reset of the slots.
+    LibraryState& lib = library();
+    setHelpPath(helpFile.c_str());
+    lib.hostWindow = reinterpret_cast<WindowRef>(kOwner);
+    lib.currentCommandId = commandId;
+    const int result = launchDialog(*row, *descriptor, reinterpret_cast<WindowRef>(kOwner));
+    queue::flush();
+    queue::clearCount();
+    lib.optionSlots.fill(-1);
+    lib.currentCommandId = kNoCommand;
+    return result;
 }
 
 void HeadlessBackend::reinitDialogs(std::int32_t value) { ReinitDialogs(value); }

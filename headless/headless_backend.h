@@ -25,6 +25,7 @@ public:
     std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) override;
     void reinitDialogs(std::int32_t value) override;
     void setSortList(std::int32_t value) override;
+    std::optional<std::int32_t> launchUnlisted(std::uint32_t id, const std::string& helpFile) override;
 
     scenario::WindowKind topKind() override;
     std::string topText() override;

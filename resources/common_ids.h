@@ -10,6 +10,7 @@
 #define IDC_REMOVE2         9
 #define IDC_TARGET1         10
 #define IDC_TARGET2         11
+#define IDC_ONE_VARIABLE    239 /* target list that holds one variable */
 #define IDC_HELPBUTTON            12
 #define IDC_RESETALL        13
 #define IDC_ADD5            51

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "core/dispatch_table.h"
+#include "data/listing_launch.h"
 #include "standin/host_state.h"
 #include "standin/win/bitmap_file.h"
 #include "standin/win/help_catcher.h"
@@ -39,6 +40,7 @@ private:
     void onTick(HWND top);
     // Runs open, taking a picture of the first library dialog it shows.
     void visit(const std::string& shotName, const std::function<std::string()>& open);
+    void pictureOfUnlisted();
 
     std::string outDir_;
     std::FILE* log_;
@@ -51,6 +53,13 @@ private:
     bool shot_ = true;
     int settle_ = 0;
 };
+
+// A dialog's picture is named by its command id and template.
+std::string shotNameOf(const DispatchRow& row) {
+    std::string id = std::to_string(row.id);
+    while (id.size() < 4) id.insert(id.begin(), '0');
+    return id + "-" + row.templateName;
+}
 
 void Tour::onTick(HWND top) {
     if (!top) return;
@@ -73,6 +82,30 @@ void Tour::visit(const std::string& shotName, const std::function<std::string()>
     shot_ = true;
 }
 
+INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
+
+// The note, page-title and print-format templates, which no StartDialog
+// reaches: shown modeless under a procedure that does nothing, just for
+// their pictures.
+void Tour::pictureOfUnlisted() {
+    for (const std::uint16_t id : {51, 52, 53}) {
+        const DispatchRow* row = data::outputSettingsRow(id);
+        if (!row || !FindResourceA(library_.module(), row->templateName, RT_DIALOG)) continue;
+        const HWND dialog = CreateDialogParamA(library_.module(), row->templateName, owner_, pictureProcedure, 0);
+        if (!dialog) {
+            emit("error " + scenario::quote(std::string("cannot create ") + row->templateName));
+            continue;
+        }
+        ShowWindow(dialog, SW_SHOW);
+        UpdateWindow(dialog);
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
+        const std::string path = outDir_ + "\\" + shotNameOf(*row) + ".bmp";
+        if (!saveWindowBitmap(dialog, path)) emit("error " + scenario::quote("cannot save " + path));
+        DestroyWindow(dialog);
+    }
+}
+
 int Tour::run() {
     std::string error;
     if (!library_.load(error)) {
@@ -87,9 +120,7 @@ int Tour::run() {
     for (const DispatchRow& row : dispatchTable()) {
         // Only the dialogs the library has a template for are shown.
         if (!row.templateName || !FindResourceA(library_.module(), row.templateName, RT_DIALOG)) continue;
-        std::string id = std::to_string(row.id);
-        while (id.size() < 4) id.insert(id.begin(), '0');
-        visit(id + "-" + row.templateName, [&] {
+        visit(shotNameOf(row), [&] {
             return "StartDialog " + std::to_string(row.id) + " = " +
                    std::to_string(library_.startDialog(row.id, owner_, kSampleHelpFile));
         });
@@ -114,6 +145,7 @@ int Tour::run() {
             return "ColorPickerDialogEx = " + std::to_string(picker(owner_, &colour));
         });
     watch_.stop();
+    pictureOfUnlisted();
     HostState::instance().setSink(nullptr);
     library_.unload();
     return 0;

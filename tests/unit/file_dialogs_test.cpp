@@ -12,7 +12,7 @@
 #include "core/library_state.h"
 #include "core/lifecycle.h"
 #include "data/append_merge.h"
-#include "data/quote_file_name.h"
+#include "data/text_pieces.h"
 #include "headless/headless_dialog.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"

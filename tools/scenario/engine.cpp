@@ -1,5 +1,7 @@
 #include "tools/scenario/engine.h"
 
+#include <algorithm>
+
 #include "resources/list_transfer.h"
 #include "tools/scenario/call_statements.h"
 #include "tools/scenario/transcript.h"
@@ -147,6 +149,15 @@ bool Engine::setup(const Statement& s) {
         }
         const std::int32_t result = backend_.startDialog(static_cast<std::uint32_t>(*id), helpFile_);
         emit_("StartDialog " + std::to_string(*id) + " = " + std::to_string(result));
+    } else if (k == "launch") {
+        const auto id = number(0);
+        if (!id) {
+            fail(s, "launch takes a command id");
+            return true;
+        }
+        const auto result = backend_.launchUnlisted(static_cast<std::uint32_t>(*id), helpFile_);
+        if (!result) fail(s, "launch " + std::to_string(*id) + " cannot run on this backend");
+        else emit_("launch " + std::to_string(*id) + " = " + std::to_string(*result));
     } else if (k == "reinit") {
         const auto value = number(0);
         backend_.reinitDialogs(value ? static_cast<std::int32_t>(*value) : 1);
@@ -245,6 +256,23 @@ void Engine::actOnDialog(const Statement& s) {
         if (!id) return;
         if (s.args.size() != 2) fail(s, "type needs a control and a text");
         else backend_.typeText(id, s.args[1].text);
+    } else if (k == "typerepeat") {
+        const int id = needControl(0);
+        if (!id) return;
+        const auto times = s.args.size() == 3 ? toNumber(s.args[2].text) : std::nullopt;
+        if (!times || *times < 0 || !s.args[1].quoted) {
+            fail(s, "typerepeat needs a control, a text and a count");
+            return;
+        }
+        constexpr std::size_t kMostText = std::size_t{16} << 20;
+        if (static_cast<std::size_t>(*times) > kMostText / std::max<std::size_t>(s.args[1].text.size(), 1)) {
+            fail(s, "typerepeat makes at most 16 MB of text");
+            return;
+        }
+        std::string text;
+        text.reserve(s.args[1].text.size() * static_cast<std::size_t>(*times));
+        for (long i = 0; i < *times; ++i) text += s.args[1].text;
+        backend_.typeText(id, text);
     } else if (k == "choose") {
         const int id = needControl(0);
         if (!id) return;

@@ -63,6 +63,11 @@ public:
     virtual std::int32_t startDialog(std::uint32_t id, const std::string& helpFile) = 0;
     virtual void reinitDialogs(std::int32_t value) = 0;
     virtual void setSortList(std::int32_t value) = 0;
+    // Runs the template of a dialog that StartDialog does not reach (the
+    // note, page-title and print-format dialogs) under the standard launcher,
+    // then hands the queued commands to the host as StartDialog does. The
+    // launcher's result, or nothing when the backend cannot reach them.
+    virtual std::optional<std::int32_t> launchUnlisted(std::uint32_t, const std::string&) { return std::nullopt; }
 
     // The topmost library window.
     virtual WindowKind topKind() = 0;
