@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/dialog_defaults.h"
 #include "core/families.h"
 
 namespace kvs {
@@ -84,6 +85,13 @@ void resetSelection(Descriptor& d, bool freeArrays, int mode) {
         release(d.third);
         release(d.fourth);
         d.allocated = 0;
+    }
+}
+
+void addDescriptorOptionDefaults(DefaultsTable& table) {
+    for (auto& [id, descriptor] : descriptors()) {
+        const DescriptorSettings settings = descriptorSettings(id);
+        for (std::size_t i = 0; i < descriptor.extra.size(); ++i) table.word(descriptor.extra[i], settings.extra[i]);
     }
 }
 

@@ -57,6 +57,11 @@ std::int32_t secondUsedCount(const Descriptor& descriptor, int mode);
 void resetSelection(Descriptor& descriptor, bool freeArrays, int mode);
 void resetAllSelections(bool freeArrays);
 
+class DefaultsTable;
+// Adds each descriptor's extra option words, with their first values, to the
+// table of defaults.
+void addDescriptorOptionDefaults(DefaultsTable& table);
+
 // Every descriptor back to its never-opened state.
 void resetDescriptorsForLoad();
 

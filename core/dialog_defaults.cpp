@@ -1,5 +1,6 @@
 #include "core/dialog_defaults.h"
 
+#include "core/descriptor.h"
 #include "core/families.h"
 
 namespace kvs {
@@ -46,6 +47,7 @@ void DefaultsTable::apply(bool freeMemory) const {
 const DefaultsTable& dialogDefaults() {
     static const DefaultsTable table = [] {
         DefaultsTable t;
+        addDescriptorOptionDefaults(t);
         addFamilyDefaults(t);
         return t;
     }();
