@@ -40,6 +40,7 @@ public:
     void answerMessage(int buttonId) override;
     void answerChooser(const std::optional<std::string>& path) override;
     void dismissTop() override { ui_.dismissTop(); }
+    std::optional<long> userWord() override;
 
 private:
     DialogWindow* dialog();

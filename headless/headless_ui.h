@@ -26,6 +26,10 @@ struct Driver {
 struct DialogWindow {
     std::unique_ptr<HeadlessDialog> dialog;
     DialogHandler* handler = nullptr;
+    bool modeless = false;
+    // A modeless dialog's user word: the progress bar position drawn last,
+    // -1 right after creation.
+    std::intptr_t userWord = -1;
 };
 
 struct MessageWindow {
@@ -72,6 +76,15 @@ public:
     void endWait(std::uintptr_t) override {}
     void beep() override {}
 
+    // The modeless dialog stays in the window stack, where statements act on
+    // it, until it is closed; the library keeps running meanwhile.
+    DialogView* openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    void closeModeless(DialogView& view) override;
+    bool pumpMessages(DialogView&) override { return false; }
+    std::intptr_t userRequest(DialogView& view, int code, std::intptr_t value) override;
+    // Closes every modeless dialog still open, as the user would.
+    void closeAllModeless();
+
     // What the common file dialog returns for a typed name: the default
     // extension is added to a name without one.
     static std::string withDefaultExtension(const std::string& path, const std::string& extension);
@@ -89,6 +102,10 @@ private:
     Driver driver_;
     std::string ownerTitle_;
     std::vector<Window> stack_;
+    std::vector<std::unique_ptr<DialogWindow>> modeless_;
+
+    DialogWindow* modelessOf(const DialogView& view);
+    void unstack(const DialogWindow* window);
 };
 
 }  // namespace kvs::headless

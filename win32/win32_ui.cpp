@@ -8,6 +8,8 @@
 
 #include "core/file_filters.h"
 #include "win32/dialog_procedure.h"
+#include "win32/modeless_dialog.h"
+#include "win32/numeric_field_window.h"
 #include "win32/module_instance.h"
 
 namespace kvs::win32 {
@@ -128,5 +130,29 @@ std::uintptr_t Win32Ui::beginWait() {
 void Win32Ui::endWait(std::uintptr_t previous) { SetCursor(reinterpret_cast<HCURSOR>(previous)); }
 
 void Win32Ui::beep() { MessageBeep(MB_OK); }
+
+void Win32Ui::messageBeep(unsigned type) { MessageBeep(type); }
+
+DialogView* Win32Ui::openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) {
+    const std::string name(templateName);
+    if (!FindResourceA(dialogInstance(), name.c_str(), kDialogResourceType)) return nullptr;
+    return openModelessDialog(windowOf(owner), name, handler);
+}
+
+void Win32Ui::closeModeless(DialogView& view) { closeModelessDialog(view); }
+
+bool Win32Ui::pumpMessages(DialogView& view) { return pumpDialogMessages(windowOf(view.handle())); }
+
+void Win32Ui::updateWindow(DialogView& view) { UpdateWindow(windowOf(view.handle())); }
+
+void Win32Ui::attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) {
+    const HWND dialog = windowOf(view.handle());
+    if (repeatMilliseconds) createUpDown(dialog, field.controlId, field, field.notify, nullptr, repeatMilliseconds);
+    else win32::attachNumericField(dialog, field);
+}
+
+std::intptr_t Win32Ui::userRequest(DialogView& view, int code, std::intptr_t value) {
+    return SendMessageA(windowOf(view.handle()), WM_USER, static_cast<WPARAM>(code), value);
+}
 
 }  // namespace kvs::win32

@@ -36,6 +36,7 @@ private:
         std::fflush(log_);
     }
     void onTick(HWND top);
+    void showProgress();
 
     std::string outDir_;
     std::FILE* log_;
@@ -62,6 +63,21 @@ void Tour::onTick(HWND top) {
     backend_.dismissTop();
 }
 
+// The progress window is modeless, opened by the sampling exports rather
+// than StartDialog: shown part-way through a job of 100 samples.
+void Tour::showProgress() {
+    const scenario::LibraryExports& e = library_.exports();
+    if (!e.startSamplingDialog || !e.updateSamplingDialog || !e.clearSamplingDialog) return;
+    e.startSamplingDialog(1, 100);
+    e.updateSamplingDialog(40, 3725);
+    const HWND window = topDialogWindow();
+    if (window && roleOf(window, library_.module()) == scenario::WindowKind::Dialog) {
+        const std::string path = outDir_ + "\\progress-ProcessBox.bmp";
+        if (!saveWindowBitmap(window, path)) emit("error " + scenario::quote("cannot save " + path));
+    }
+    e.clearSamplingDialog();
+}
+
 int Tour::run() {
     std::string error;
     if (!library_.load(error)) {
@@ -82,6 +98,7 @@ int Tour::run() {
         const auto result = library_.startDialog(row.id, owner_, kSampleHelpFile);
         emit("StartDialog " + std::to_string(row.id) + " = " + std::to_string(result));
     }
+    showProgress();
     watch_.stop();
     HostState::instance().setSink(nullptr);
     library_.unload();

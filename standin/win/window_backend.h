@@ -40,11 +40,13 @@ public:
     void answerMessage(int buttonId) override;
     void answerChooser(const std::optional<std::string>& path) override;
     void dismissTop() override;
+    std::optional<long> userWord() override;
 
 private:
     HWND dialog();                     // the top window when it is a dialog
     HWND item(int id);                 // a control of that dialog
     void notify(HWND dialog, int id, int code);
+    bool isModeless(HWND window) const;
 
     const Library& library_;
     HWND owner_;

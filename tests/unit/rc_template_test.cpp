@@ -94,7 +94,10 @@ TEST(RcTemplateResources, EveryDialogHasTheCommonButtons) {
     set.load(resourceDir());
     for (const std::string& name : set.dialogNames()) {
         const DialogTemplate* d = set.dialog(name);
-        for (int id : {1, 2, 12}) EXPECT_NO_THROW(byId(*d, id)) << name << " " << id;
+        EXPECT_NO_THROW(byId(*d, 2)) << name << " 2";
+        // The progress window offers only Cancel.
+        if (name == "PROCESSBOX") continue;
+        for (int id : {1, 12}) EXPECT_NO_THROW(byId(*d, id)) << name << " " << id;
     }
     for (const char* name : {"SORT", "RANK", "TRANSPOSE"}) {
         const DialogTemplate* d = set.dialog(name);

@@ -11,6 +11,10 @@ constexpr CallStatement kCalls[] = {
     {"attachsaveas", runAttachSaveAs},
     {"impexpoptions", runImpExpOptions},
     {"attachimpexp", runAttachImpExp},
+    {"samplingstart", runSamplingStart},
+    {"samplingupdate", runSamplingUpdate},
+    {"samplingclear", runSamplingClear},
+    {"samplingbar", runSamplingBar},
 };
 
 }  // namespace

@@ -46,4 +46,10 @@ void runAttachSaveAs(CallContext&);
 void runImpExpOptions(CallContext&);
 void runAttachImpExp(CallContext&);
 
+// Statements of the sampling exports and the progress window.
+void runSamplingStart(CallContext&);
+void runSamplingUpdate(CallContext&);
+void runSamplingClear(CallContext&);
+void runSamplingBar(CallContext&);
+
 }  // namespace kvs::scenario

@@ -1,0 +1,19 @@
+#!/usr/bin/env bash
+# Runs the numeric field checks (numeric_field_check.exe of the x86_64 build)
+# under Wine (with Xvfb when there is no display). Skips, successfully, where Wine is missing.
+# Usage: run_numeric_field.sh
+set -euo pipefail
+root="$(cd "$(dirname "$0")/../.." && pwd)"
+. "$root/tools/wine/env.sh"
+if ! command -v wine >/dev/null; then
+  echo "SKIP numeric fields: wine is not installed"
+  exit 0
+fi
+kvs_need_display "$0" "$@"
+exe="$root/build/x86_64/win32/numeric_field_check.exe"
+[ -f "$exe" ] || { echo "numeric fields: no $exe (run scripts/build.sh x86_64)" >&2; exit 2; }
+kvs_wine_prefix
+status=0
+kvs_wine "$exe" || status=$?
+wineserver -w
+exit $status
