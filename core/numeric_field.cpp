@@ -15,6 +15,8 @@ constexpr long kExponentCap = 100000;
 // The focus-time text is kept up to this many characters.
 constexpr std::size_t kFocusTextLimit = 32;
 constexpr double kPositionSlack = 1e-15;
+// The field is read into a 128-byte buffer with a blank after the text.
+constexpr std::size_t kReadLimit = 126;
 constexpr int kRealDigits = 15;
 
 bool isBlank(char c) { return c == ' ' || c == '\t'; }
@@ -107,8 +109,17 @@ std::optional<ParsedNumber> parseNumber(std::string_view text) {
     return parsed;
 }
 
-int validateText(NumericField& field, std::string_view text) {
+namespace {
+
+std::size_t readRoom(const NumericField& field) {
     const std::size_t room = static_cast<std::size_t>(field.width) + 3;
+    return room < kReadLimit ? room : kReadLimit;
+}
+
+}  // namespace
+
+int validateText(NumericField& field, std::string_view text) {
+    const std::size_t room = readRoom(field);
     if (text.size() > room) text = text.substr(0, room);
     if (text.empty()) return kFieldEmpty;
     const auto parsed = parseNumber(text);
@@ -179,7 +190,7 @@ std::string upDownText(int first, int count, int position) {
 
 int validateField(NumericField& field, const DialogView& view) {
     std::string text = view.text(field.controlId);
-    const std::size_t room = static_cast<std::size_t>(field.width) + 3;
+    const std::size_t room = readRoom(field);
     if (text.size() > room) text.resize(room);
     return validateText(field, text);
 }

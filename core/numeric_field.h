@@ -73,7 +73,7 @@ std::optional<ParsedNumber> parseNumber(std::string_view text);
 
 // Checks text as the field's content: -1 empty, 1 not a number, 2 not an
 // integer, 3 out of range, 0 valid (the value is stored). Only the first
-// width + 3 characters count, as that is all the field reads.
+// width + 3 characters (at most 126) count, as that is all the field reads.
 int validateText(NumericField& field, std::string_view text);
 
 // The message for a validation result.
