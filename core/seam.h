@@ -15,6 +15,8 @@
 
 namespace kvs {
 
+struct NumericField;  // core/numeric_field.h
+
 // An opaque window handle (an HWND under Windows); 0 is "no window".
 using WindowRef = std::uintptr_t;
 // An opaque bitmap handle (an HBITMAP under Windows); 0 is "no bitmap".
@@ -104,6 +106,8 @@ public:
     virtual void onClick(DialogView& view, int controlId, int x, int y, int width, int height) {
         (void)view, (void)controlId, (void)x, (void)y, (void)width, (void)height;
     }
+    // The user closed the window (WM_CLOSE); a modal dialog takes it as Cancel.
+    virtual void onClose(DialogView& view) { onCommand(view, 2 /* IDCANCEL */, kButtonClicked); }
 };
 
 enum class MessageIcon { None, Stop, Exclamation, Question, Information };
@@ -179,6 +183,44 @@ public:
     virtual int screenPixelsPerInchY() = 0;
     // The chosen font, or nothing when the user cancelled.
     virtual std::optional<KvsLogFont> chooseFont(const FontRequest& request) = 0;
+    // MessageBeep with a sound type.
+    virtual void messageBeep(unsigned type) {
+        (void)type;
+        beep();
+    }
+
+    // Modeless dialogs (the progress window). openModeless creates the named
+    // template under handler and returns its view, or null when it cannot be
+    // created; the view stays valid until closeModeless, even when the window
+    // has gone meanwhile.
+    virtual DialogView* openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) {
+        (void)owner, (void)templateName, (void)handler;
+        return nullptr;
+    }
+    // Destroys the dialog (if it is still there) and releases its view.
+    virtual void closeModeless(DialogView& view) { (void)view; }
+    // Handles what is queued for the dialog and its controls without waiting;
+    // true when a Cancel command (WM_COMMAND 2) was among it.
+    virtual bool pumpMessages(DialogView& view) {
+        (void)view;
+        return false;
+    }
+    // Repaints what is invalid in the dialog now (UpdateWindow).
+    virtual void updateWindow(DialogView& view) { (void)view; }
+    // Makes the edit control field.controlId of view a numeric field that is
+    // checked as the user leaves it, with an up/down control beside it when
+    // repeatMilliseconds (its auto-repeat interval) is not 0. field must
+    // live as long as the dialog.
+    virtual void attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) {
+        (void)view, (void)field, (void)repeatMilliseconds;
+    }
+
+    // Sends the dialog the user request (WM_USER, code, value) and returns
+    // its answer.
+    virtual std::intptr_t userRequest(DialogView& view, int code, std::intptr_t value) {
+        (void)view, (void)code, (void)value;
+        return 0;
+    }
 };
 
 // The services the library uses; set by the backend before any export runs.

@@ -51,6 +51,9 @@ const scenario::LibraryExports& HeadlessBackend::exports() {
         e.startDialog = &StartDialog;
         e.reinitDialogs = &ReinitDialogs;
         e.setDlgSortList = &SetDlgSortList;
+        e.startSamplingDialog = &StartSamplingDialog;
+        e.updateSamplingDialog = &UpdateSamplingDialog;
+        e.clearSamplingDialog = &ClearSamplingDialog;
         e.doSaveDataOptionsDlg = &DoSaveDataOptionsDlg;
         e.doImpExpOptionsDlg = &DoImpExpOptionsDlg;
         e.attachSaveAsOptions = &AttachSaveAsOptions;
@@ -186,8 +189,20 @@ void HeadlessBackend::chooseEntry(int id, int index) {
     }
 }
 
+// Closing from the system menu reaches the dialog as WM_CLOSE, as the
+// dialog manager passes it on.
 void HeadlessBackend::sysCommand(int code) {
-    if (DialogWindow* window = dialog()) window->handler->onSysCommand(*window->dialog, code);
+    constexpr int kSysClose = 0xF060;  // SC_CLOSE
+    DialogWindow* window = dialog();
+    if (!window) return;
+    if (code == kSysClose) window->handler->onClose(*window->dialog);
+    else window->handler->onSysCommand(*window->dialog, code);
+}
+
+std::optional<long> HeadlessBackend::userWord() {
+    DialogWindow* window = dialog();
+    if (!window) return std::nullopt;
+    return window->modeless ? static_cast<long>(window->userWord) : 0L;
 }
 
 Buttons HeadlessBackend::messageButtons() {
@@ -259,10 +274,16 @@ std::string HeadlessRunner::run(std::string_view source) {
     setUi(&ui_);
     onLibraryLoad();
 
+    KernelState::instance().setSink([this](const std::string& line) { emit(line); });
+
     engine_.load(source);
     while (engine_.step()) {
     }
+    // A modeless window outlives the statements that opened it.
+    if (ui_.top()) engine_.windowLeftOpen();
+    ui_.closeAllModeless();
     onLibraryUnload();
+    KernelState::instance().setSink(nullptr);
     host.setSink(nullptr);
     setUi(nullptr);
     return transcript_;

@@ -43,6 +43,7 @@ public:
     void clickAt(int id, int x, int y) override;
     bool answerFont(const std::optional<scenario::FontAnswer>& font) override;
     void dismissTop() override { ui_.dismissTop(); }
+    std::optional<long> userWord() override;
 
 private:
     DialogWindow* dialog();

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "resources/progress_ids.h"
 #include "tools/scenario/transcript.h"
 
 namespace kvs::headless {
@@ -45,7 +46,12 @@ void HeadlessUi::pumpUntil(const std::function<bool()>& done) {
 void HeadlessUi::dismissTop() {
     if (stack_.empty()) return;
     const Window window = stack_.back();
-    if (window.dialog) {
+    if (window.dialog && window.dialog->modeless) {
+        HeadlessDialog* view = window.dialog->dialog.get();
+        window.dialog->handler->onClose(*view);
+        // A handler that keeps its window open is not the user's to keep.
+        if (modelessOf(*view)) closeModeless(*view);
+    } else if (window.dialog) {
         DialogWindow& d = *window.dialog;
         d.handler->onCommand(*d.dialog, kIdCancel, kButtonClicked);
         if (!d.dialog->ended()) d.dialog->end(kIdCancel);
@@ -73,6 +79,72 @@ int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler
     pumpUntil([&] { return window.dialog->ended(); });
     stack_.pop_back();
     return window.dialog->result();
+}
+
+DialogView* HeadlessUi::openModeless(WindowRef, std::string_view templateName, DialogHandler& handler) {
+    const DialogTemplate* found = resources_.dialog(templateName);
+    if (!found) return nullptr;
+    auto window = std::make_unique<DialogWindow>();
+    window->dialog = std::make_unique<HeadlessDialog>(*found);
+    window->handler = &handler;
+    window->modeless = true;
+    transcript_("dialog " + quote(window->dialog->caption()));
+    DialogWindow* shown = window.get();
+    modeless_.push_back(std::move(window));
+    stack_.push_back(Window{shown, nullptr, nullptr});
+    handler.onInit(*shown->dialog);
+    return shown->dialog.get();
+}
+
+DialogWindow* HeadlessUi::modelessOf(const DialogView& view) {
+    for (const auto& window : modeless_)
+        if (window->dialog.get() == &view) return window.get();
+    return nullptr;
+}
+
+void HeadlessUi::unstack(const DialogWindow* window) {
+    for (auto it = stack_.begin(); it != stack_.end(); ++it) {
+        if (it->dialog == window) {
+            stack_.erase(it);
+            return;
+        }
+    }
+}
+
+void HeadlessUi::closeModeless(DialogView& view) {
+    DialogWindow* window = modelessOf(view);
+    if (!window) return;
+    unstack(window);
+    for (auto it = modeless_.begin(); it != modeless_.end(); ++it) {
+        if (it->get() == window) {
+            modeless_.erase(it);
+            return;
+        }
+    }
+}
+
+void HeadlessUi::closeAllModeless() {
+    while (!modeless_.empty()) {
+        HeadlessDialog* view = modeless_.back()->dialog.get();
+        modeless_.back()->handler->onClose(*view);
+        if (modelessOf(*view)) closeModeless(*view);
+    }
+}
+
+// The progress window's requests; the bar itself is not drawn here.
+std::intptr_t HeadlessUi::userRequest(DialogView& view, int code, std::intptr_t value) {
+    DialogWindow* window = modelessOf(view);
+    if (!window) return 0;
+    switch (code) {
+    case PROGRESS_RESET_BAR: window->userWord = 0; break;
+    case PROGRESS_SET_BAR: window->userWord = value; break;
+    case PROGRESS_DESTROY: unstack(window); break;
+    case PROGRESS_SET_CAPTION:
+        if (value) window->dialog->setCaption(reinterpret_cast<const char*>(value));
+        break;
+    default: break;
+    }
+    return 1;
 }
 
 int HeadlessUi::messageBox(const MessageRequest& request) {

@@ -26,6 +26,10 @@ struct Driver {
 struct DialogWindow {
     std::unique_ptr<HeadlessDialog> dialog;
     DialogHandler* handler = nullptr;
+    bool modeless = false;
+    // A modeless dialog's user word: the progress bar position drawn last,
+    // -1 right after creation.
+    std::intptr_t userWord = -1;
 };
 
 struct MessageWindow {
@@ -93,6 +97,15 @@ public:
     // The record the font dialog returns for a face, a size and a style.
     static KvsLogFont chosenFont(const std::string& face, int points, bool bold, bool italic);
 
+    // The modeless dialog stays in the window stack, where statements act on
+    // it, until it is closed; the library keeps running meanwhile.
+    DialogView* openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    void closeModeless(DialogView& view) override;
+    bool pumpMessages(DialogView&) override { return false; }
+    std::intptr_t userRequest(DialogView& view, int code, std::intptr_t value) override;
+    // Closes every modeless dialog still open, as the user would.
+    void closeAllModeless();
+
     // What the common file dialog returns for a typed name: the default
     // extension is added to a name without one.
     // The common dialog opens in the initial name's folder and shows only
@@ -114,6 +127,10 @@ private:
     std::string ownerTitle_;
     std::vector<Window> stack_;
     BitmapRef nextBitmap_ = 0x1000;
+    std::vector<std::unique_ptr<DialogWindow>> modeless_;
+
+    DialogWindow* modelessOf(const DialogView& view);
+    void unstack(const DialogWindow* window);
 };
 
 }  // namespace kvs::headless

@@ -43,7 +43,12 @@ KVS_EXPORT int32_t KVS_CALL ReinitDialogs(int32_t freeMemory);
 KVS_EXPORT int32_t KVS_CALL SetDlgSortList(int32_t sorted);
 
 /* Progress dialog of a sampling job. job is handed back to the kernel's
- * CancelSampling when the user cancels. */
+ * CancelSampling when the user cancels. StartSamplingDialog disables the
+ * host's windows (DoWindowEnable(0)) and ClearSamplingDialog enables them
+ * again. UpdateSamplingDialog takes the samples remaining (counting down
+ * from total; values outside 1..total-1 only refresh the window) and the
+ * seconds elapsed; it returns 1 when the user has just confirmed a cancel
+ * (CancelSampling has been called), else 0. */
 KVS_EXPORT void KVS_CALL StartSamplingDialog(int32_t job, int32_t total);
 KVS_EXPORT int32_t KVS_CALL UpdateSamplingDialog(int32_t remaining, int32_t elapsedSeconds);
 KVS_EXPORT void KVS_CALL ClearSamplingDialog(void);

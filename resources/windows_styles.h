@@ -41,6 +41,8 @@
 #define SS_LEFT             0x00000000L
 #define SS_CENTER           0x00000001L
 #define SS_RIGHT            0x00000002L
+#define SS_BLACKFRAME       0x00000007L
+#define SS_OWNERDRAW        0x0000000DL
 #define SS_SUNKEN           0x00001000L
 
 #define ES_LEFT             0x0000L

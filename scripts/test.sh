@@ -19,5 +19,6 @@ echo "== DLL export and import tables"
 "$root/tests/win/check_dll_tables.sh" "$root/build" i686 x86_64
 echo "== real windows under Wine"
 "$root/tests/win/run_view_parity.sh"
+"$root/tests/win/run_controls.sh"
 echo "== stand-in host and scenarios under Wine"
 "$root/tools/wine/test.sh"

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -26,10 +27,18 @@ public:
     int frees() const { return frees_; }
     std::size_t liveBlocks() const { return live_.size(); }
 
+    // Where the calls the library makes to the kernel are reported, one line
+    // each (CancelSampling). reset() keeps it.
+    void setSink(std::function<void(const std::string&)> sink) { sink_ = std::move(sink); }
+    void record(const std::string& line) const {
+        if (sink_) sink_(line);
+    }
+
     // Releases every live block and forgets all counts and settings.
     void reset();
 
 private:
+    std::function<void(const std::string&)> sink_;
     std::vector<std::string> variables_;
     std::unordered_map<void*, std::size_t> live_;
     int allocations_ = 0;

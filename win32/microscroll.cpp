@@ -1,30 +1,19 @@
 #include "win32/microscroll.h"
 
+#include "win32/numeric_field_window.h"
+
 namespace kvs::win32 {
 
 namespace {
 
 constexpr COLORREF kBackground = RGB(16, 0, 0);
 
-LRESULT CALLBACK microscrollProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_PAINT) {
-        PAINTSTRUCT paint;
-        if (HDC dc = BeginPaint(window, &paint)) {
-            auto brush = reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND));
-            if (brush) FillRect(dc, &paint.rcPaint, brush);
-            EndPaint(window, &paint);
-        }
-        return 0;
-    }
-    return DefWindowProcA(window, message, wParam, lParam);
-}
-
 }  // namespace
 
 bool registerMicroscroll(HINSTANCE instance) {
     WNDCLASSA wc{};
     wc.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
-    wc.lpfnWndProc = microscrollProcedure;
+    wc.lpfnWndProc = upDownProcedure;
     wc.cbWndExtra = sizeof(void*);
     wc.hInstance = instance;
     wc.hCursor = LoadCursor(nullptr, IDC_ARROW);

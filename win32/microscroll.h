@@ -1,5 +1,5 @@
-// The "Tmicroscroll" window class: the small spin control beside numeric
-// fields. For now its window only paints its background.
+// The "Tmicroscroll" window class: the small up/down control beside numeric
+// fields (its window procedure is in numeric_field_window).
 #pragma once
 
 #include <windows.h>

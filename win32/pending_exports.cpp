@@ -6,15 +6,6 @@
 
 extern "C" {
 
-void KVS_CALL StartSamplingDialog(int32_t, int32_t) {}
-
-int32_t KVS_CALL UpdateSamplingDialog(int32_t, int32_t) { return 0; }
-
-void KVS_CALL ClearSamplingDialog(void) {}
-
-// Not handled: the dialog manager does its default processing.
-intptr_t KVS_CALL ProcessDlgProc(KvsWindow, uint32_t, uintptr_t, intptr_t) { return FALSE; }
-
 int32_t KVS_CALL TRAXCallDialog(uint32_t, int32_t, const char*, int32_t, int32_t) { return 0; }
 
 }  // extern "C"

@@ -9,6 +9,8 @@
 
 #include "core/file_filters.h"
 #include "win32/dialog_procedure.h"
+#include "win32/modeless_dialog.h"
+#include "win32/numeric_field_window.h"
 #include "win32/module_instance.h"
 
 namespace kvs::win32 {
@@ -177,6 +179,30 @@ std::optional<KvsLogFont> Win32Ui::chooseFont(const FontRequest& request) {
     KvsLogFont chosen;
     std::memcpy(&chosen, &font, sizeof chosen);
     return chosen;
+}
+
+void Win32Ui::messageBeep(unsigned type) { MessageBeep(type); }
+
+DialogView* Win32Ui::openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) {
+    const std::string name(templateName);
+    if (!FindResourceA(dialogInstance(), name.c_str(), kDialogResourceType)) return nullptr;
+    return openModelessDialog(windowOf(owner), name, handler);
+}
+
+void Win32Ui::closeModeless(DialogView& view) { closeModelessDialog(view); }
+
+bool Win32Ui::pumpMessages(DialogView& view) { return pumpDialogMessages(windowOf(view.handle())); }
+
+void Win32Ui::updateWindow(DialogView& view) { UpdateWindow(windowOf(view.handle())); }
+
+void Win32Ui::attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) {
+    const HWND dialog = windowOf(view.handle());
+    if (repeatMilliseconds) createUpDown(dialog, field.controlId, field, field.notify, nullptr, repeatMilliseconds);
+    else win32::attachNumericField(dialog, field);
+}
+
+std::intptr_t Win32Ui::userRequest(DialogView& view, int code, std::intptr_t value) {
+    return SendMessageA(windowOf(view.handle()), WM_USER, static_cast<WPARAM>(code), value);
 }
 
 }  // namespace kvs::win32

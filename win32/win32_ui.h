@@ -21,6 +21,13 @@ public:
     std::uint32_t systemColour(SystemColour which) override;
     int screenPixelsPerInchY() override;
     std::optional<KvsLogFont> chooseFont(const FontRequest& request) override;
+    void messageBeep(unsigned type) override;
+    DialogView* openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    void closeModeless(DialogView& view) override;
+    bool pumpMessages(DialogView& view) override;
+    void updateWindow(DialogView& view) override;
+    void attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) override;
+    std::intptr_t userRequest(DialogView& view, int code, std::intptr_t value) override;
 };
 
 // The services installed at load.

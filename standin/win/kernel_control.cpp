@@ -21,4 +21,9 @@ int32_t KVS_CALL KvsStandinLiveBlocks(void) { return static_cast<int32_t>(Kernel
 
 void KVS_CALL KvsStandinReset(void) { KernelState::instance().reset(); }
 
+void KVS_CALL KvsStandinSetLineSink(KvsStandinLineSink sink) {
+    if (!sink) KernelState::instance().setSink(nullptr);
+    else KernelState::instance().setSink([sink](const std::string& line) { sink(line.c_str()); });
+}
+
 }

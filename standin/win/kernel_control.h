@@ -17,5 +17,9 @@ void KVS_CALL KvsStandinFailAllocation(int32_t nth);
 int32_t KVS_CALL KvsStandinLiveBlocks(void);
 // Releases every live block and forgets the variables and all settings.
 void KVS_CALL KvsStandinReset(void);
+// Where the kernel reports the calls the library makes to it, one line each
+// (CancelSampling); null: nowhere. The line is the kernel's for the call.
+typedef void(KVS_CALL* KvsStandinLineSink)(const char* line);
+void KVS_CALL KvsStandinSetLineSink(KvsStandinLineSink sink);
 
 }

@@ -22,6 +22,11 @@ namespace {
 // stuck (a window the driver does not know, such as a popup menu).
 constexpr DWORD kStuckMilliseconds = 20000;
 constexpr DWORD kQuietMilliseconds = 1000;
+// Windows a scenario may leave open (modeless ones) closed at its end.
+constexpr int kLeftOpenLimit = 8;
+
+// The kernel's report of a call the library made to it, in the transcript.
+void KVS_CALL kernelLine(const char* line) { HostState::instance().record(line ? line : ""); }
 
 std::string fullPath(const std::string& path) {
     std::array<char, MAX_PATH> buffer{};
@@ -76,6 +81,7 @@ void ScenarioRun::resetHostAndKernel() {
     host.reset();
     host.setSink([this](const std::string& line) { emit(line); });
     KvsStandinReset();
+    KvsStandinSetLineSink(kernelLine);
     KernelState::instance().reset();
     SetWindowTextA(owner_, scenario::Engine::kDefaultTitle);
 }
@@ -127,6 +133,8 @@ bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
     engine_.load(*source);
     while (engine_.step()) {
     }
+    for (int i = 0; i < kLeftOpenLimit && backend_.topKind() != scenario::WindowKind::None; ++i)
+        engine_.windowLeftOpen();
 
     watch_.stop();
     library_.unload();

@@ -41,6 +41,7 @@ private:
     // Runs open, taking a picture of the first library dialog it shows.
     void visit(const std::string& shotName, const std::function<std::string()>& open);
     void pictureOfUnlisted();
+    void showProgress();
 
     std::string outDir_;
     std::FILE* log_;
@@ -106,6 +107,21 @@ void Tour::pictureOfUnlisted() {
     }
 }
 
+// The progress window is modeless, opened by the sampling exports rather
+// than StartDialog: shown part-way through a job of 100 samples.
+void Tour::showProgress() {
+    const scenario::LibraryExports& e = library_.exports();
+    if (!e.startSamplingDialog || !e.updateSamplingDialog || !e.clearSamplingDialog) return;
+    e.startSamplingDialog(1, 100);
+    e.updateSamplingDialog(40, 3725);
+    const HWND window = topDialogWindow();
+    if (window && roleOf(window, library_.module()) == scenario::WindowKind::Dialog) {
+        const std::string path = outDir_ + "\\progress-ProcessBox.bmp";
+        if (!saveWindowBitmap(window, path)) emit("error " + scenario::quote("cannot save " + path));
+    }
+    e.clearSamplingDialog();
+}
+
 int Tour::run() {
     std::string error;
     if (!library_.load(error)) {
@@ -144,6 +160,8 @@ int Tour::run() {
             float colour = 0.5f;
             return "ColorPickerDialogEx = " + std::to_string(picker(owner_, &colour));
         });
+    // The progress window of a sampling job.
+    showProgress();
     watch_.stop();
     pictureOfUnlisted();
     HostState::instance().setSink(nullptr);

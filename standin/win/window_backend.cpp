@@ -226,10 +226,28 @@ bool WindowBackend::answerFont(const std::optional<scenario::FontAnswer>& font) 
     return true;
 }
 
+std::optional<long> WindowBackend::userWord() {
+    const HWND window = dialog();
+    if (!window) return std::nullopt;
+    return static_cast<long>(GetWindowLongPtrA(window, GWLP_USERDATA));
+}
+
+// The library's modeless dialog runs under its exported ProcessDlgProc.
+bool WindowBackend::isModeless(HWND window) const {
+    const FARPROC procedure = library_.module() ? GetProcAddress(library_.module(), "ProcessDlgProc") : nullptr;
+    return procedure && GetWindowLongPtrA(window, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(procedure);
+}
+
 void WindowBackend::dismissTop() {
     const HWND top = topDialogWindow();
     switch (roleOf(top, library_.module())) {
     case WindowKind::Dialog:
+        // A modeless window is closed as its system menu would; ending it as
+        // a modal dialog would only hide it.
+        if (isModeless(top)) {
+            SendMessageA(top, WM_CLOSE, 0, 0);
+            break;
+        }
         notify(top, IDCANCEL, BN_CLICKED);
         // A dialog that ignores Cancel is ended as closing it would.
         if (IsWindow(top) && IsWindowVisible(top)) EndDialog(top, IDCANCEL);

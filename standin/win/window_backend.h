@@ -45,11 +45,13 @@ public:
     void clickAt(int id, int x, int y) override;
     bool answerFont(const std::optional<scenario::FontAnswer>& font) override;
     void dismissTop() override;
+    std::optional<long> userWord() override;
 
 private:
     HWND dialog();                     // the top window when it is a dialog
     HWND item(int id);                 // a control of that dialog
     void notify(HWND dialog, int id, int code);
+    bool isModeless(HWND window) const;
 
     const Library& library_;
     HWND owner_;

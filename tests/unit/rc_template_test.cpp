@@ -98,7 +98,10 @@ TEST(RcTemplateResources, EveryDialogHasTheCommonButtons) {
         EXPECT_NE(std::find(names.begin(), names.end(), name), names.end()) << name;
     for (const std::string& name : names) {
         const DialogTemplate* d = set.dialog(name);
-        for (int id : {1, 2, 12}) EXPECT_NO_THROW(byId(*d, id)) << name << " " << id;
+        EXPECT_NO_THROW(byId(*d, 2)) << name << " 2";
+        // The progress window offers only Cancel.
+        if (name == "PROCESSBOX") continue;
+        for (int id : {1, 12}) EXPECT_NO_THROW(byId(*d, id)) << name << " " << id;
     }
     for (const char* name : {"SORT", "RANK", "TRANSPOSE", "MERGE", "KEYVARS"})
         for (int id : {4, 6, 7, 10}) EXPECT_NO_THROW(byId(*set.dialog(name), id)) << name << " " << id;

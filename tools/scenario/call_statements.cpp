@@ -15,6 +15,10 @@ constexpr CallStatement kCalls[] = {
     {"symbols", runSymbols},
     {"showfont", runShowFont},
     {"deffont", runDefaultFont},
+    {"samplingstart", runSamplingStart},
+    {"samplingupdate", runSamplingUpdate},
+    {"samplingclear", runSamplingClear},
+    {"samplingbar", runSamplingBar},
 };
 
 }  // namespace

@@ -51,5 +51,10 @@ void runColourPicker(CallContext&);
 void runSymbols(CallContext&);
 void runShowFont(CallContext&);
 void runDefaultFont(CallContext&);
+// Statements of the sampling exports and the progress window.
+void runSamplingStart(CallContext&);
+void runSamplingUpdate(CallContext&);
+void runSamplingClear(CallContext&);
+void runSamplingBar(CallContext&);
 
 }  // namespace kvs::scenario

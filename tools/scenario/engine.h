@@ -96,6 +96,10 @@ public:
     virtual bool answerFont(const std::optional<FontAnswer>& font) = 0;
     // Closes the topmost window as a user giving up would.
     virtual void dismissTop() = 0;
+    // The topmost dialog's user word (the window's user data slot), where
+    // the progress window keeps the bar position it drew last; nothing when
+    // no dialog is up.
+    virtual std::optional<long> userWord() { return std::nullopt; }
 };
 
 class Engine {
