@@ -21,9 +21,9 @@ constexpr DispatchRow kRows[] = {
     {73, "Append", "Append", Family::Data, Launch::Standard, 1, 256, 0, 0, 0},
     {74, "Merge", "Merge", Family::Data, Launch::Standard, 2, 256, 256, 0, 0},
     {75, "Transpose", "Transpose", Family::Data, Launch::Standard, 1, 256, 0, 0, 0},
-    {76, nullptr, nullptr, Family::Data, Launch::Special, 0, 0, 0, 0, 0},  // editor extract: save-file chooser titled by the "EXTRACT '" command
+    {76, nullptr, nullptr, Family::Data, Launch::Special, 0, 0, 0, 0, 0},  // editor extract: a save-file chooser that queues "EXTRACT '...'"
     {77, "IDVAR", "ID Variable", Family::Data, Launch::Standard, 1, 256, 0, 0, 0},
-    {78, nullptr, nullptr, Family::Data, Launch::Special, 0, 0, 0, 0, 0},  // the "Labels" dialog
+    {78, nullptr, nullptr, Family::Data, Launch::Special, 0, 0, 0, 0, 0},  // the "Labels" dialog: value labels of one variable (data/value_labels)
     {83, "Order", "Order", Family::Data, Launch::Standard, 1, 256, 0, 0, 0},
     {84, "Category", "Category", Family::Data, Launch::Standard, 1, 256, 0, 0, 0},
     {85, "Frequency", "Frequency", Family::Data, Launch::Standard, 1, 256, 0, 1, 1},

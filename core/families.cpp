@@ -3,6 +3,7 @@
 #include "core/library_state.h"
 #include "core/series_commands.h"
 #include "data/editor_extract.h"
+#include "data/value_labels.h"
 #include "graph/font_chooser.h"
 #include "graph/picture_sets.h"
 
@@ -29,6 +30,7 @@ void resetFamiliesForLoad() {
 bool runSpecialCommand(std::uint16_t commandId) {
     switch (commandId) {
     case 76: data::runEditorExtract(); return true;
+    case 78: data::runValueLabels(); return true;
     case 242:
     case 245:
     case 246: runSeriesCommand(commandId); return true;

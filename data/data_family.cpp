@@ -9,6 +9,7 @@
 #include "data/key_selection.h"
 #include "data/listing_dialogs.h"
 #include "data/sort_rank_transpose.h"
+#include "data/value_labels.h"
 #include "resources/data_listing_ids.h"
 
 namespace kvs::data {
@@ -47,6 +48,7 @@ DialogBehaviour* behaviour(std::uint16_t commandId) {
     case 74: return &mergeBehaviour();
     case 75: return &transposeBehaviour();
     case 77: return &idVariableBehaviour();
+    case 78: return &valueLabelsBehaviour();
     case 83: return &orderBehaviour();
     case 84: return &categoryBehaviour();
     case 85: return &frequencyBehaviour();
@@ -64,6 +66,7 @@ void addDefaults(DefaultsTable& table) {
     table.routine([](bool) { resetAppendMergeDefaults(); });
     table.routine([](bool) { resetKeySelection(); });
     table.routine([](bool) { resetListingDefaults(); });
+    addValueLabelDefaults(table);
 }
 
 }  // namespace kvs::data

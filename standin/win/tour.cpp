@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "core/dispatch_table.h"
-#include "data/listing_launch.h"
 #include "standin/host_state.h"
 #include "standin/win/bitmap_file.h"
 #include "standin/win/help_catcher.h"
@@ -85,23 +84,30 @@ void Tour::visit(const std::string& shotName, const std::function<std::string()>
 
 INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
 
-// The note, page-title and print-format templates, which no StartDialog
-// reaches: shown modeless under a procedure that does nothing, just for
-// their pictures.
+// Templates no StartDialog opens by itself: shown modeless under a procedure
+// that does nothing, just for their pictures.
 void Tour::pictureOfUnlisted() {
-    for (const std::uint16_t id : {51, 52, 53}) {
-        const DispatchRow* row = data::outputSettingsRow(id);
-        if (!row || !FindResourceA(library_.module(), row->templateName, RT_DIALOG)) continue;
-        const HWND dialog = CreateDialogParamA(library_.module(), row->templateName, owner_, pictureProcedure, 0);
+    struct Unlisted {
+        const char* shotName;
+        const char* templateName;
+    };
+    // The note, page-title and print-format dialogs (no menu entry), and
+    // Merge's key selection.
+    constexpr Unlisted kUnlisted[] = {
+        {"0051-Note", "Note"}, {"0052-PageTitle", "PageTitle"}, {"0053-PrintFormat", "PrintFormat"},
+        {"0091-KeyVars", "KeyVars"}};
+    for (const Unlisted& unlisted : kUnlisted) {
+        if (!FindResourceA(library_.module(), unlisted.templateName, RT_DIALOG)) continue;
+        const HWND dialog = CreateDialogParamA(library_.module(), unlisted.templateName, owner_, pictureProcedure, 0);
         if (!dialog) {
-            emit("error " + scenario::quote(std::string("cannot create ") + row->templateName));
+            emit("error " + scenario::quote(std::string("cannot create ") + unlisted.templateName));
             continue;
         }
         ShowWindow(dialog, SW_SHOW);
         UpdateWindow(dialog);
         MSG message;
         while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
-        const std::string path = outDir_ + "\\" + shotNameOf(*row) + ".bmp";
+        const std::string path = outDir_ + "\\" + unlisted.shotName + ".bmp";
         if (!saveWindowBitmap(dialog, path)) emit("error " + scenario::quote("cannot save " + path));
         DestroyWindow(dialog);
     }
@@ -151,6 +157,10 @@ int Tour::run() {
         visit("export-IDD_OPTIONSIMPORTEXPORT", [&] {
             return "DoImpExpOptionsDlg 0 = " + std::to_string(exports.doImpExpOptionsDlg(owner_, 0, 0));
         });
+    // The value labels of menu entry 78.
+    visit("0078-Labels", [&] {
+        return "StartDialog 78 = " + std::to_string(library_.startDialog(78, owner_, kSampleHelpFile));
+    });
     // The font chooser of the graph font command.
     visit("0150-Font", [&] {
         return "StartDialog 150 = " + std::to_string(library_.startDialog(150, owner_, kSampleHelpFile));

@@ -1,0 +1,163 @@
+#include "data/value_labels.h"
+
+#include <algorithm>
+
+#include "core/command_queue.h"
+#include "core/command_text.h"
+#include "core/launcher.h"
+#include "core/library_state.h"
+#include "core/messages.h"
+#include "data/data_texts.h"
+#include "data/text_pieces.h"
+#include "resources/data_labels_ids.h"
+
+namespace kvs::data {
+
+namespace {
+
+constexpr std::uint16_t kLabelsId = 78;
+constexpr std::size_t kValueBound = 32;
+constexpr std::size_t kLabelBound = 60;
+
+// Menu entry 78 has no variable dialog of the standard table; this row gives
+// it one: a single variable in list 239.
+constexpr DispatchRow kLabelsRow{kLabelsId, "Labels", "Labels", Family::Data, Launch::Standard, 1, 1, 0, 0, 0};
+
+Descriptor freshDescriptor() {
+    Descriptor d;
+    d.firstCapacity = d.tableFirstCapacity = kLabelsRow.firstCapacity;
+    return d;
+}
+
+Descriptor& labelsDescriptor() {
+    static Descriptor d = freshDescriptor();
+    return d;
+}
+
+std::string trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string shownEntry(const std::string& variable, const ValueLabel& entry) {
+    const bool character = variable.find('$') != std::string::npos;
+    return (character ? quoted(entry.first) : entry.first) + "=" + quoted(entry.second);
+}
+
+class ValueLabelsDialog : public DialogBehaviour {
+public:
+    int init(DialogContext& context) override {
+        labels_.clear();
+        context.view.listClear(IDC_LABEL_LIST);
+        context.view.enable(IDC_LABEL_REMOVE, false);
+        return 0;
+    }
+
+    int command(DialogContext& context, int controlId, int notifyCode) override {
+        DialogView& view = context.view;
+        switch (controlId) {
+        case IDC_LABEL_ADD:
+            if (notifyCode == kButtonClicked) addLabel(view);
+            return 0;
+        case IDC_LABEL_REMOVE:
+            if (notifyCode == kButtonClicked) removeLabel(view);
+            return 0;
+        case IDC_LABEL_LIST:
+            if (notifyCode == kListSelChange) showSelected(view);
+            return 0;
+        case kIdOk: return accept(view);
+        default: return 0;
+        }
+    }
+
+    void reset(DialogContext& context) override {
+        init(context);
+        context.view.setText(IDC_LABEL_VALUE, "");
+        context.view.setText(IDC_LABEL_TEXT, "");
+    }
+
+private:
+    static std::string variableOf(const DialogView& view) {
+        return view.listCount(IDC_ONE_VARIABLE) > 0 ? view.listText(IDC_ONE_VARIABLE, 0) : std::string();
+    }
+
+    void addLabel(DialogView& view) {
+        const std::string value = bounded(trimmed(view.text(IDC_LABEL_VALUE)), kValueBound);
+        const std::string label = bounded(view.text(IDC_LABEL_TEXT), kLabelBound);
+        if (value.empty() || isBlank(label)) {
+            showStop(ui().focusWindow(), kvs::text::kProvideMoreInput);
+            return;
+        }
+        // A value labelled again takes the new label.
+        const auto same = std::find_if(labels_.begin(), labels_.end(), [&](const ValueLabel& e) { return e.first == value; });
+        if (same != labels_.end()) same->second = label;
+        else labels_.emplace_back(value, label);
+        refill(view);
+        view.setText(IDC_LABEL_VALUE, "");
+        view.setText(IDC_LABEL_TEXT, "");
+        view.setFocus(IDC_LABEL_VALUE);
+    }
+
+    void removeLabel(DialogView& view) {
+        const auto selected = view.listSelection(IDC_LABEL_LIST);
+        if (selected.empty() || static_cast<std::size_t>(selected.front()) >= labels_.size()) return;
+        labels_.erase(labels_.begin() + selected.front());
+        refill(view);
+    }
+
+    void showSelected(DialogView& view) {
+        const auto selected = view.listSelection(IDC_LABEL_LIST);
+        const bool any = !selected.empty() && static_cast<std::size_t>(selected.front()) < labels_.size();
+        view.enable(IDC_LABEL_REMOVE, any);
+        if (!any) return;
+        const ValueLabel& entry = labels_[static_cast<std::size_t>(selected.front())];
+        view.setText(IDC_LABEL_VALUE, entry.first);
+        view.setText(IDC_LABEL_TEXT, entry.second);
+    }
+
+    void refill(DialogView& view) {
+        const std::string variable = variableOf(view);
+        view.listClear(IDC_LABEL_LIST);
+        for (const ValueLabel& entry : labels_) view.listAdd(IDC_LABEL_LIST, shownEntry(variable, entry), ListInsert::Append);
+        view.enable(IDC_LABEL_REMOVE, false);
+    }
+
+    int accept(DialogView& view) {
+        const std::string variable = variableOf(view);
+        if (variable.empty()) {
+            showStop(view.handle(), kvs::text::kSelectVariables);
+            return 0;
+        }
+        queue::push(composeLabelLine(variable, labels_).c_str(), nullptr);
+        library().dataCommand = 1;
+        return 1;
+    }
+
+    std::vector<ValueLabel> labels_;
+};
+
+}  // namespace
+
+std::string composeLabelLine(const std::string& variable, const std::vector<ValueLabel>& labels) {
+    CommandText line(text::kLabel);
+    line.append(variable);
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        line.append(i == 0 ? text::kOptionSeparator : text::kLabelSeparator);
+        line.append(shownEntry(variable, labels[i]));
+    }
+    return line.str();
+}
+
+void runValueLabels() { launchDialog(kLabelsRow, labelsDescriptor(), library().hostWindow); }
+
+DialogBehaviour& valueLabelsBehaviour() {
+    static ValueLabelsDialog dialog;
+    return dialog;
+}
+
+void addValueLabelDefaults(DefaultsTable& table) {
+    table.routine([](bool freeMemory) { resetSelection(labelsDescriptor(), freeMemory, kLabelsRow.mode); });
+}
+
+}  // namespace kvs::data
