@@ -9,6 +9,7 @@
 #include "standin/win/help_catcher.h"
 #include "standin/win/library.h"
 #include "standin/win/owner_window.h"
+#include "standin/win/picture_board.h"
 #include "standin/win/sample_data.h"
 #include "standin/win/window_backend.h"
 #include "standin/win/window_roles.h"
@@ -40,6 +41,7 @@ private:
     // Runs open, taking a picture of the first library dialog it shows.
     void visit(const std::string& shotName, const std::function<std::string()>& open);
     void pictureOfUnlisted();
+    void pictureOfPictures();
     void showProgress();
 
     std::string outDir_;
@@ -128,6 +130,23 @@ void Tour::showProgress() {
     e.clearSamplingDialog();
 }
 
+// The symbol, line-style and axis pictures the graph dialogs list.
+void Tour::pictureOfPictures() {
+    const scenario::LibraryExports& e = library_.exports();
+    if (!e.loadSymbolBitmapsEx || !e.deleteSymbolBitmapsEx) return;
+    void* table = nullptr;
+    const int count = e.loadSymbolBitmapsEx(&table);
+    const HWND board = showPictureBoard(library_.module(), static_cast<HBITMAP*>(table), count);
+    if (board) {
+        MSG message;
+        while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
+        const std::string path = outDir_ + "\\pictures-symbols-lines-axes.bmp";
+        if (!saveWindowBitmap(board, path)) emit("error " + scenario::quote("cannot save " + path));
+        closePictureBoard(board);
+    }
+    e.deleteSymbolBitmapsEx();
+}
+
 int Tour::run() {
     std::string error;
     if (!library_.load(error)) {
@@ -174,6 +193,7 @@ int Tour::run() {
     showProgress();
     watch_.stop();
     pictureOfUnlisted();
+    pictureOfPictures();
     HostState::instance().setSink(nullptr);
     library_.unload();
     return 0;
