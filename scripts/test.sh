@@ -18,7 +18,7 @@ done
 echo "== DLL export and import tables"
 "$root/tests/win/check_dll_tables.sh" "$root/build" i686 x86_64
 echo "== real windows under Wine"
-"$root/tests/win/run_view_parity.sh"
-"$root/tests/win/run_controls.sh"
+"$root/tests/win/run_wine_check.sh" view_parity
+"$root/tests/win/run_wine_check.sh" controls_check
 echo "== stand-in host and scenarios under Wine"
 "$root/tools/wine/test.sh"

@@ -16,7 +16,7 @@
 #include "headless/headless_dialog.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
-#include "tests/unit/fake_ui.h"
+#include "tests/unit/loaded_library.h"
 
 namespace {
 
@@ -52,31 +52,15 @@ const kvs::headless::DialogTemplate& ownerTemplate() {
     return *set.dialog("T");
 }
 
-class FileChooserTest : public ::testing::Test {
+class FileChooserTest : public kvs::testing::LoadedLibraryTest<ChooserUi> {
 protected:
-    void SetUp() override {
-        kvs::onLibraryUnload();
-        KernelState::instance().reset();
-        HostState::instance().reset();
-        HostState::instance().setSink([this](const std::string& line) { host.push_back(line); });
-        kvs::setUi(&ui);
-        kvs::onLibraryLoad();
-    }
-    void TearDown() override {
-        kvs::onLibraryUnload();
-        kvs::setUi(nullptr);
-        HostState::instance().setSink(nullptr);
-        HostState::instance().reset();
-    }
     std::vector<std::string> flushed() {
         host.clear();
         kvs::queue::flush();
         return host;
     }
 
-    ChooserUi ui;
     kvs::headless::HeadlessDialog owner{ownerTemplate()};
-    std::vector<std::string> host;
 };
 
 TEST_F(FileChooserTest, EachPurposeOpensWithItsFilterAndExtensionWhileNoDialogMayStart) {

@@ -7,11 +7,10 @@
 #include <string>
 #include <vector>
 
-#include "core/lifecycle.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
 #include "include/kvs_dlg.h"
-#include "tests/unit/fake_ui.h"
+#include "tests/unit/loaded_library.h"
 
 namespace kvs {
 namespace {
@@ -38,21 +37,10 @@ public:
     }
 };
 
-class OptionAttachTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        setUi(&ui_);
-        onLibraryLoad();
-    }
-    void TearDown() override {
-        onLibraryUnload();
-        setUi(nullptr);
-    }
-    OptionsUi ui_;
-};
+using OptionAttachTest = testing::LoadedLibraryTest<OptionsUi>;
 
 TEST_F(OptionAttachTest, ClausesStopAtTheLineLimit) {
-    ui_.act = [](DialogView& view, DialogHandler&) {
+    ui.act = [](DialogView& view, DialogHandler&) {
         view.setChecked(31, false);
         view.setText(32, "1");
         view.setText(33, "100");
@@ -73,14 +61,14 @@ TEST_F(OptionAttachTest, ClausesStopAtTheLineLimit) {
 }
 
 TEST_F(OptionAttachTest, ReinitialisingKeepsTheChoices) {
-    ui_.act = [](DialogView& view, DialogHandler&) {
+    ui.act = [](DialogView& view, DialogHandler&) {
         view.setChecked(31, false);
         view.setChecked(32, false);
         view.setText(32, "5");
         view.setText(33, "9");
     };
     ASSERT_EQ(DoImpExpOptionsDlg(nullptr, 1, 0), 1);
-    ui_.act = [](DialogView& view, DialogHandler& handler) { handler.onCommand(view, 34, kButtonClicked); };
+    ui.act = [](DialogView& view, DialogHandler& handler) { handler.onCommand(view, 34, kButtonClicked); };
     ASSERT_EQ(DoSaveDataOptionsDlg(nullptr), 1);
     ReinitDialogs(1);
 

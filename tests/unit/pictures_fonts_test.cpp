@@ -3,6 +3,8 @@
 // opened with and what becomes of its answer.
 #include <gtest/gtest.h>
 
+#include <string_view>
+
 #include <cstring>
 #include <string>
 #include <vector>
@@ -38,7 +40,7 @@ protected:
         f.weight = weight;
         f.italic = italic ? 255 : 0;
         f.charSet = 1;
-        std::strncpy(f.faceName, face, sizeof f.faceName - 1);
+        std::string_view(face).copy(f.faceName, sizeof f.faceName - 1);
         return f;
     }
 

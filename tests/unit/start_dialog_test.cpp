@@ -11,7 +11,7 @@
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
 #include "include/kvs_dlg.h"
-#include "tests/unit/fake_ui.h"
+#include "tests/unit/loaded_library.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
 
@@ -21,28 +21,16 @@ using kvs::library;
 using kvs::standin::HostState;
 using kvs::standin::KernelState;
 
-class StartDialogTest : public ::testing::Test {
+class StartDialogTest : public kvs::testing::LoadedLibraryTest<> {
 protected:
     void SetUp() override {
-        kvs::onLibraryUnload();
-        KernelState::instance().reset();
+        LoadedLibraryTest::SetUp();
         KernelState::instance().setVariables({"A", "B", "C", "D", "E"});
-        HostState::instance().setSink([this](const std::string& line) { host.push_back(line); });
-        kvs::setUi(&ui);
-        kvs::onLibraryLoad();
-    }
-    void TearDown() override {
-        kvs::onLibraryUnload();
-        kvs::setUi(nullptr);
-        HostState::instance().setSink(nullptr);
-        KernelState::instance().reset();
     }
     void expectIdle() {
         EXPECT_EQ(library().currentCommandId, kvs::kNoCommand);
         for (std::int32_t slot : library().optionSlots) EXPECT_EQ(slot, -1);
     }
-    kvs::testing::FakeUi ui;
-    std::vector<std::string> host;
 };
 
 TEST_F(StartDialogTest, OptionSlotsHoldTheExtraWordsAndComeBackOnlyOnOk) {
