@@ -36,4 +36,11 @@ public:
     virtual std::uint32_t helpContext(std::uint16_t commandId) const { return commandId; }
 };
 
+// The one instance of a behaviour class, made on first use.
+template <typename Behaviour>
+DialogBehaviour& soleInstance() {
+    static Behaviour behaviour;
+    return behaviour;
+}
+
 }  // namespace kvs

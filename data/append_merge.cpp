@@ -183,15 +183,8 @@ bool composeMergeLine(std::string_view file1, std::string_view names1, std::stri
     return true;
 }
 
-DialogBehaviour& appendBehaviour() {
-    static AppendDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& mergeBehaviour() {
-    static MergeDialog dialog;
-    return dialog;
-}
+DialogBehaviour& appendBehaviour() { return soleInstance<AppendDialog>(); }
+DialogBehaviour& mergeBehaviour() { return soleInstance<MergeDialog>(); }
 
 void resetAppendMergeDefaults() {
     appendState = AppendState{};

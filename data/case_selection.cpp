@@ -117,9 +117,6 @@ bool composeSelect(const ConditionState& state, CommandText& line, bool continue
     return true;
 }
 
-DialogBehaviour& selectBehaviour() {
-    static SelectDialog dialog;
-    return dialog;
-}
+DialogBehaviour& selectBehaviour() { return soleInstance<SelectDialog>(); }
 
 }  // namespace kvs::data

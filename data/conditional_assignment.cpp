@@ -193,14 +193,7 @@ bool composeIfThenLet(const ConditionState& state, CommandText& line) {
     return pieces >= 2;
 }
 
-DialogBehaviour& letBehaviour() {
-    static LetDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& ifThenLetBehaviour() {
-    static IfThenLetDialog dialog;
-    return dialog;
-}
+DialogBehaviour& letBehaviour() { return soleInstance<LetDialog>(); }
+DialogBehaviour& ifThenLetBehaviour() { return soleInstance<IfThenLetDialog>(); }
 
 }  // namespace kvs::data

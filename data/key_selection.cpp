@@ -59,10 +59,7 @@ public:
 
 }  // namespace
 
-DialogBehaviour& keySelectionBehaviour() {
-    static KeySelectionDialog dialog;
-    return dialog;
-}
+DialogBehaviour& keySelectionBehaviour() { return soleInstance<KeySelectionDialog>(); }
 
 int runKeySelection(WindowRef owner) {
     const int result = launchDialog(kKeyRow, keyDescriptor(), owner, true);

@@ -81,20 +81,9 @@ private:
 
 }  // namespace
 
-DialogBehaviour& weightBehaviour() {
-    static WeightDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& idVariableBehaviour() {
-    static IdVariableDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& frequencyBehaviour() {
-    static FrequencyDialog dialog;
-    return dialog;
-}
+DialogBehaviour& weightBehaviour() { return soleInstance<WeightDialog>(); }
+DialogBehaviour& idVariableBehaviour() { return soleInstance<IdVariableDialog>(); }
+DialogBehaviour& frequencyBehaviour() { return soleInstance<FrequencyDialog>(); }
 
 void listing::resetOneVariableDialogs() {
     weightOff = false;

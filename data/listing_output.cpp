@@ -120,20 +120,9 @@ public:
 
 }  // namespace
 
-DialogBehaviour& noteBehaviour() {
-    static NoteDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& pageTitleBehaviour() {
-    static PageTitleDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& printFormatBehaviour() {
-    static PrintFormatDialog dialog;
-    return dialog;
-}
+DialogBehaviour& noteBehaviour() { return soleInstance<NoteDialog>(); }
+DialogBehaviour& pageTitleBehaviour() { return soleInstance<PageTitleDialog>(); }
+DialogBehaviour& printFormatBehaviour() { return soleInstance<PrintFormatDialog>(); }
 
 void listing::resetOutputDialogs() {
     noteLines = {};

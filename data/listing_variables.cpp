@@ -237,35 +237,12 @@ public:
 
 }  // namespace
 
-DialogBehaviour& listCasesBehaviour() {
-    static ListCasesDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& byGroupsBehaviour() {
-    static ByGroupsDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& categoryBehaviour() {
-    static CategoryDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& reshapeBehaviour() {
-    static ReshapeDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& standardizeBehaviour() {
-    static StandardizeDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& orderBehaviour() {
-    static OrderDialog dialog;
-    return dialog;
-}
+DialogBehaviour& listCasesBehaviour() { return soleInstance<ListCasesDialog>(); }
+DialogBehaviour& byGroupsBehaviour() { return soleInstance<ByGroupsDialog>(); }
+DialogBehaviour& categoryBehaviour() { return soleInstance<CategoryDialog>(); }
+DialogBehaviour& reshapeBehaviour() { return soleInstance<ReshapeDialog>(); }
+DialogBehaviour& standardizeBehaviour() { return soleInstance<StandardizeDialog>(); }
+DialogBehaviour& orderBehaviour() { return soleInstance<OrderDialog>(); }
 
 void listing::resetVariableDialogs() {
     listCases = {};

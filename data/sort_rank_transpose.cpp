@@ -99,20 +99,9 @@ public:
 
 }  // namespace
 
-DialogBehaviour& sortBehaviour() {
-    static SortDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& rankBehaviour() {
-    static RankDialog dialog;
-    return dialog;
-}
-
-DialogBehaviour& transposeBehaviour() {
-    static TransposeDialog dialog;
-    return dialog;
-}
+DialogBehaviour& sortBehaviour() { return soleInstance<SortDialog>(); }
+DialogBehaviour& rankBehaviour() { return soleInstance<RankDialog>(); }
+DialogBehaviour& transposeBehaviour() { return soleInstance<TransposeDialog>(); }
 
 void addSortDefaults(DefaultsTable& table) {
     table.word(liveSortOrder, IDC_SORT_ASCENDING);

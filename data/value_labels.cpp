@@ -151,10 +151,7 @@ std::string composeLabelLine(const std::string& variable, const std::vector<Valu
 
 void runValueLabels() { launchDialog(kLabelsRow, labelsDescriptor(), library().hostWindow); }
 
-DialogBehaviour& valueLabelsBehaviour() {
-    static ValueLabelsDialog dialog;
-    return dialog;
-}
+DialogBehaviour& valueLabelsBehaviour() { return soleInstance<ValueLabelsDialog>(); }
 
 void addValueLabelDefaults(DefaultsTable& table) {
     table.routine([](bool freeMemory) { resetSelection(labelsDescriptor(), freeMemory, kLabelsRow.mode); });
