@@ -55,6 +55,10 @@ public:
     virtual bool isChecked(int id) const = 0;
     virtual void setChecked(int id, bool on) = 0;
     virtual void setFocus(int id) = 0;
+    // Stops the user typing more than count characters into an edit control.
+    // Text set by the program is not cut (as WM_SETTEXT is not), so neither
+    // are the texts scenarios type.
+    virtual void limitText(int id, std::size_t count) { (void)id, (void)count; }
 
     // List boxes.
     virtual int listCount(int id) const = 0;

@@ -52,6 +52,7 @@ public:
     int init(DialogContext& context) override {
         for (int id : {IDC_APPEND_MATCH, IDC_APPEND_UNION, IDC_APPEND_INTERSECT})
             context.view.setChecked(id, id == appendState.liveOption);
+        for (int id : {IDC_APPEND_FILE1, IDC_APPEND_FILE2}) context.view.limitText(id, kFileNameLength);
         return 0;
     }
 
@@ -95,6 +96,7 @@ class MergeDialog : public DialogBehaviour {
 public:
     bool fillSources(DialogContext& context, VariableCatalogue& first, VariableCatalogue& second) override {
         DialogView& view = context.view;
+        for (int id : {IDC_MERGE_FILE1, IDC_MERGE_FILE2}) view.limitText(id, kFileNameLength);
         view.setText(IDC_MERGE_FILE1, mergeState.file1);
         view.setText(IDC_MERGE_FILE2, mergeState.file2);
         fillListFromFile(view, mergeState.file1, IDC_SOURCE, listInsertRule(), &first);

@@ -53,6 +53,10 @@ int ConditionDialog::initShared(DialogView& view) {
         view.comboAdd(IDC_FUNCTION_TYPE, categoryName(static_cast<FunctionCategory>(i)));
     view.comboSelect(IDC_FUNCTION_TYPE, static_cast<int>(categoryAt(conditionState().functionType)));
     showFunctions(view);
+    for (int row = 0; row < kConditionRows; ++row) {
+        view.limitText(variableField(row), kVariableTextBound);
+        view.limitText(valueField(row), kValueTextBound);
+    }
     remembered_ = IDC_ROW_VARIABLE1;
     return IDC_ROW_VARIABLE1;
 }

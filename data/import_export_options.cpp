@@ -60,6 +60,7 @@ public:
         view.setChecked(IDC_IMPEXP_ALLCASES, state.allCases != 0);
         view.setChecked(IDC_IMPEXP_ALLCOLUMNS, state.allColumns != 0);
         for (std::size_t i = 0; i < FieldCount; ++i) {
+            view.limitText(kFieldIds[i], kTextCapacity);
             if (!state.texts[i]) state.texts[i].emplace();
             else view.setText(kFieldIds[i], *state.texts[i]);
         }

@@ -29,8 +29,11 @@ TextLines noteLines;
 PageTitleSettings pageTitle;
 PrintSettings print;
 
-void showLines(DialogView& view, const TextLines& lines) {
-    for (std::size_t i = 0; i < lines.size(); ++i) view.setText(IDC_TEXT_LINE1 + static_cast<int>(i), lines[i]);
+void showLines(DialogView& view, const TextLines& lines, std::size_t limit) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        view.limitText(IDC_TEXT_LINE1 + static_cast<int>(i), limit);
+        view.setText(IDC_TEXT_LINE1 + static_cast<int>(i), lines[i]);
+    }
 }
 
 void readLines(const DialogView& view, TextLines& lines, std::size_t limit) {
@@ -50,7 +53,7 @@ int leadingNumber(std::string_view text) {
 class NoteDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
-        showLines(context.view, noteLines);
+        showLines(context.view, noteLines, kNoteFieldLimit);
         return 0;
     }
 
@@ -67,7 +70,7 @@ public:
 class PageTitleDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
-        showLines(context.view, pageTitle.titles);
+        showLines(context.view, pageTitle.titles, kTitleFieldLimit);
         context.view.setChecked(IDC_TITLE_OFF, pageTitle.off);
         return 0;
     }
@@ -89,6 +92,7 @@ public:
         DialogView& view = context.view;
         listing::showChoice(view, IDC_PRINT_PORTRAIT, IDC_PRINT_LANDSCAPE, print.pages);
         listing::showChoice(view, IDC_PRINT_SHORT, IDC_PRINT_LONG, print.length);
+        view.limitText(IDC_PRINT_DECIMALS, kDecimalsFieldLimit);
         view.setText(IDC_PRINT_DECIMALS, print.decimals);
         view.setChecked(IDC_PRINT_UNDERFLOW, print.underflow);
         view.setChecked(IDC_PRINT_PAGE_NUMBERS, print.pageNumbers);

@@ -53,6 +53,7 @@ class ListCasesDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
         DialogView& view = context.view;
+        for (int id : {IDC_LIST_CHARACTERS, IDC_LIST_DECIMALS, IDC_LIST_LAST_CASE}) view.limitText(id, kListFieldLimit);
         view.setText(IDC_LIST_CHARACTERS, listCases.characters);
         view.setText(IDC_LIST_DECIMALS, listCases.decimals);
         view.setText(IDC_LIST_LAST_CASE, listCases.lastCase);
@@ -159,6 +160,7 @@ class ReshapeDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
         DialogView& view = context.view;
+        view.limitText(IDC_RESHAPE_UNWRAP_BY, kUnwrapFieldLimit);
         view.setText(IDC_RESHAPE_UNWRAP_BY, reshape.unwrapBy);
         showChoice(view, reshape.choice);
         return 0;

@@ -51,6 +51,8 @@ public:
         labels_.clear();
         context.view.listClear(IDC_LABEL_LIST);
         context.view.enable(IDC_LABEL_REMOVE, false);
+        context.view.limitText(IDC_LABEL_VALUE, kValueBound);
+        context.view.limitText(IDC_LABEL_TEXT, kLabelBound);
         return 0;
     }
 

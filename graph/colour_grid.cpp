@@ -3,8 +3,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
-#include <cstring>
 
 namespace kvs::graph {
 
@@ -12,7 +10,6 @@ namespace {
 
 constexpr double kFirst = 0.01;
 constexpr double kStep = (0.99 - 0.01) / 63.0;
-constexpr std::size_t kFieldCharacters = 16;
 
 }  // namespace
 
@@ -60,13 +57,18 @@ std::string formatColourValue(double value) {
 }
 
 double colourFromField(std::string_view text) {
-    std::array<char, kFieldCharacters + 1> field{};
-    const std::size_t length = text.size() < kFieldCharacters ? text.size() : kFieldCharacters;
-    std::memcpy(field.data(), text.data(), length);
-    const double value = std::strtod(field.data(), nullptr);
-    if (std::isnan(value) || value < 0.0) return 0.0;
-    if (value > 1.0) return 1.0;
-    return value;
+    // The number the field's text begins with, read the same whatever locale
+    // the host has set.
+    text = text.substr(0, kColourFieldLength);
+    const std::size_t start = text.find_first_not_of(" \t");
+    if (start == std::string_view::npos) return 0.0;
+    text.remove_prefix(start);
+    if (text.front() == '+') text.remove_prefix(1);
+    double value = 0.0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    (void)end;
+    if (error != std::errc{} || std::isnan(value) || value < 0.0) return 0.0;
+    return value > 1.0 ? 1.0 : value;
 }
 
 }  // namespace kvs::graph

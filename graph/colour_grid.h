@@ -4,6 +4,8 @@
 // backends and the drawing code share it.
 #pragma once
 
+#include <cstddef>
+
 #include <string>
 #include <string_view>
 
@@ -45,5 +47,6 @@ std::string formatColourValue(double value);
 // 0..1; text that is not a number is 0. At most the first 16 characters
 // count, as the field is read into a 16-character buffer.
 double colourFromField(std::string_view text);
+inline constexpr std::size_t kColourFieldLength = 16;
 
 }  // namespace kvs::graph

@@ -23,6 +23,7 @@ public:
     double value() const { return value_; }
 
     int onInit(DialogView& view) override {
+        view.limitText(IDC_COLOUR_VALUE, kColourFieldLength);
         view.setText(IDC_COLOUR_VALUE, formatColourValue(value_));
         selectCell(view, cellForValue(value_));
         return 0;

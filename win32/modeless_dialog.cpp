@@ -90,7 +90,10 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         if (lParam != reinterpret_cast<LPARAM>(&session) || !session.handler) return TRUE;
         session.window = dialog;
         session.view.emplace(dialog);
-        return session.handler->onInit(*session.view) != 0 ? FALSE : TRUE;
+        // The handler has put the focus on Cancel, the window's only tab stop,
+        // where the dialog manager puts it too.
+        session.handler->onInit(*session.view);
+        return TRUE;
     }
     case WM_CLOSE:
         if (DialogView* view = viewOf(dialog)) session.handler->onClose(*view);

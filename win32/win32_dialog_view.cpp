@@ -276,6 +276,10 @@ void Win32DialogView::setEditSelection(int id, int start, int end) {
 // ---------------------------------------------------------------------------
 // The dialog itself
 
+void Win32DialogView::limitText(int id, std::size_t count) {
+    SendDlgItemMessageA(dialog_, id, EM_LIMITTEXT, static_cast<WPARAM>(count), 0);
+}
+
 void Win32DialogView::setCaption(std::string_view text) { SetWindowTextA(dialog_, cString(text).c_str()); }
 
 void Win32DialogView::centre() {

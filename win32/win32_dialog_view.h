@@ -42,6 +42,7 @@ public:
     std::pair<int, int> editSelection(int id) const override;
     void setEditSelection(int id, int start, int end) override;
 
+    void limitText(int id, std::size_t count) override;
     void setCaption(std::string_view text) override;
     void centre() override;
     void end(int result) override;

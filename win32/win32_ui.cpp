@@ -59,6 +59,7 @@ UINT_PTR CALLBACK fontHook(HWND dialog, UINT message, WPARAM, LPARAM lParam) {
         const auto* chooser = reinterpret_cast<const CHOOSEFONTA*>(lParam);
         const auto* request = reinterpret_cast<const FontRequest*>(chooser->lCustData);
         if (request && !request->okText.empty()) SetDlgItemTextA(dialog, IDOK, request->okText.c_str());
+        return TRUE;  // the dialog gives the first control the focus
     }
     return 0;  // the dialog's own processing follows
 }

@@ -288,6 +288,8 @@ void Engine::actOnDialog(const Statement& s) {
         }
         if (entry < 0) fail(s, "no such entry in control " + std::to_string(id));
         else backend_.chooseEntry(id, entry);
+    } else if (k == "caption") {
+        emit_("caption " + quote(backend_.topText()));
     } else if (k == "show") {
         if (const int id = needControl(0)) emit_(describeControl(id, *backend_.control(id)));
     } else if (k == "clickat") {
