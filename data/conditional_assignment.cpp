@@ -170,7 +170,7 @@ bool composeIfThenLet(const ConditionState& state, CommandText& line) {
         if (assignment) piece.append(text::kThenLet);
         piece.append(r.variable);
         const std::string_view op = entryAt(text::kOperators, r.op).substr(0, kOperatorTextBound);
-        piece.append(assignment ? std::string_view("=") : op);
+        piece.append(row == 3 ? std::string_view("=") : op);  // only the "Then let" row has a fixed "="
         piece.append(r.value);
         if (!assignment) piece.append(") ");
 

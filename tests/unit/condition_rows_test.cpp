@@ -117,6 +117,10 @@ TEST(ComposeIfThenLet, AThenRowEndsTheLine) {
     CommandText line;
     ASSERT_TRUE(composeIfThenLet(state, line));
     EXPECT_EQ(line.str(), "IF (AGE>65)  THEN LET OLD=1");
+    state.rows[1].op = 5;  // a THEN row writes the operator it shows; only "Then let" has a fixed "="
+    ASSERT_TRUE(composeIfThenLet(state, line));
+    EXPECT_EQ(line.str(), "IF (AGE>65)  THEN LET OLD<>1");
+    state.rows[1].op = 0;
     state.rows[1].value.clear();  // a THEN row half filled
     EXPECT_FALSE(composeIfThenLet(state, line));
     state.thenConnectors = {3, 4};
