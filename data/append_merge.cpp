@@ -9,7 +9,7 @@
 #include "data/key_selection.h"
 #include "data/text_pieces.h"
 #include "data/save_file_step.h"
-#include "resources/data_files_ids.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

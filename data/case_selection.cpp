@@ -2,8 +2,8 @@
 
 #include "core/command_queue.h"
 #include "core/messages.h"
-#include "data/condition_texts.h"
-#include "resources/data_conditions_ids.h"
+#include "data/data_texts.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

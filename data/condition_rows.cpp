@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "data/condition_texts.h"
+#include "data/data_texts.h"
 #include "data/function_catalogue.h"
-#include "resources/data_conditions_ids.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

@@ -10,7 +10,7 @@
 #include "data/listing_dialogs.h"
 #include "data/sort_rank_transpose.h"
 #include "data/value_labels.h"
-#include "resources/data_listing_ids.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

@@ -1,6 +1,6 @@
 #include "data/listing_compose.h"
 
-#include "data/listing_texts.h"
+#include "data/data_texts.h"
 
 namespace kvs::data {
 

@@ -4,8 +4,8 @@
 #include "core/library_state.h"
 #include "core/messages.h"
 #include "data/listing_dialogs.h"
-#include "data/listing_texts.h"
-#include "resources/data_listing_ids.h"
+#include "data/data_texts.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

@@ -4,10 +4,10 @@
 #include "data/join_names.h"
 #include "data/listing_compose.h"
 #include "data/listing_dialogs.h"
-#include "data/listing_texts.h"
+#include "data/data_texts.h"
 #include "data/save_file_step.h"
 #include "core/messages.h"
-#include "resources/data_listing_ids.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

@@ -9,7 +9,7 @@
 #include "core/messages.h"
 #include "data/data_texts.h"
 #include "data/text_pieces.h"
-#include "resources/data_labels_ids.h"
+#include "resources/data_ids.h"
 
 namespace kvs::data {
 

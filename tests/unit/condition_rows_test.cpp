@@ -8,7 +8,7 @@
 
 #include "data/case_selection.h"
 #include "data/condition_rows.h"
-#include "data/condition_texts.h"
+#include "data/data_texts.h"
 #include "data/conditional_assignment.h"
 #include "data/function_catalogue.h"
 
