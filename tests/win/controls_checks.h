@@ -1,5 +1,5 @@
-// Real-window checks of the shared controls, run under Wine by
-// tests/win/run_controls.sh. Each returns its failures.
+// Real-window checks of the shared controls and the file filters, run under
+// Wine by tests/win/run_wine_check.sh controls_check. Each returns its failures.
 #pragma once
 
 #include <string>
@@ -7,3 +7,4 @@
 
 std::vector<std::string> checkNumericFields();
 std::vector<std::string> checkProgressWindow();
+std::vector<std::string> checkFileFilters();
