@@ -8,6 +8,7 @@
 #include "core/dispatch_table.h"
 #include "standin/host_state.h"
 #include "standin/win/help_catcher.h"
+#include "standin/win/kernel_control.h"
 #include "standin/win/library.h"
 #include "standin/win/sample_data.h"
 #include "standin/win/window_watch.h"
@@ -19,6 +20,10 @@ namespace {
 constexpr const char* kClassName = "KorvanStandinDemo";
 // Menu ids of the host's own entries, clear of every dialog command id.
 constexpr UINT kSortedLists = 40001, kReinit = 40002, kExit = 40003;
+// The host's calls of the exports other than StartDialog.
+constexpr UINT kSaveOptions = 40010, kImportOptions = 40011, kExportOptions = 40012, kColourPicker = 40013,
+               kSamplingJob = 40014;
+constexpr std::int32_t kSamples = 40;
 constexpr UINT kEntriesPerColumn = 28;
 constexpr int kLogId = 100;
 
@@ -77,6 +82,14 @@ HMENU buildMenu() {
         }
         AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), family.title);
     }
+    const HMENU host = CreatePopupMenu();
+    AppendMenuA(host, MF_STRING, kSaveOptions, "Save &Options...");
+    AppendMenuA(host, MF_STRING, kImportOptions, "&Import Options...");
+    AppendMenuA(host, MF_STRING, kExportOptions, "&Export Options...");
+    AppendMenuA(host, MF_SEPARATOR, 0, nullptr);
+    AppendMenuA(host, MF_STRING, kColourPicker, "&Colour Picker...");
+    AppendMenuA(host, MF_STRING, kSamplingJob, "&Sampling Job");
+    AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(host), "&Host");
     return bar;
 }
 
@@ -97,6 +110,61 @@ void onHostLine(const std::string& line) {
         CheckMenuItem(GetMenu(demo->window), id, MF_BYCOMMAND | (checked ? MF_CHECKED : MF_UNCHECKED));
 }
 
+// The kernel's report of a call the library made to it.
+void KVS_CALL kernelLine(const char* line) { appendLog(line ? line : ""); }
+
+// A host command line with the options the library attaches.
+void attachToLine(const char* call, std::int32_t result, std::int32_t(KVS_CALL* attach)(char*), const char* start) {
+    std::string line(10000, '\0');
+    std::string(start).copy(line.data(), line.size() - 1);
+    if (attach) attach(line.data());
+    appendLog(std::string(call) + " = " + std::to_string(result) + ": " + line.c_str());
+}
+
+// A job of kSamples samples, one every 100 ms, as the kernel would run it;
+// the user may cancel it from the progress window.
+void runSamplingJob() {
+    const scenario::LibraryExports& e = demo->library.exports();
+    if (!e.startSamplingDialog || !e.updateSamplingDialog || !e.clearSamplingDialog) return;
+    e.startSamplingDialog(1, kSamples);
+    for (std::int32_t remaining = kSamples - 1; remaining >= 1; --remaining) {
+        Sleep(100);
+        if (e.updateSamplingDialog(remaining, (kSamples - remaining) * 7) != 0) {
+            appendLog("the job stopped with " + std::to_string(remaining) + " samples to go");
+            break;
+        }
+    }
+    e.clearSamplingDialog();
+}
+
+void onHostCommand(HWND window, UINT id) {
+    const scenario::LibraryExports& e = demo->library.exports();
+    switch (id) {
+    case kSaveOptions:
+        if (e.doSaveDataOptionsDlg)
+            attachToLine("DoSaveDataOptionsDlg", e.doSaveDataOptionsDlg(window), e.attachSaveAsOptions,
+                         "SAVE 'C:\\DATA\\COPY.KVD'");
+        return;
+    case kImportOptions:
+    case kExportOptions: {
+        if (!e.doImpExpOptionsDlg) return;
+        const bool exporting = id == kExportOptions;
+        attachToLine("DoImpExpOptionsDlg", e.doImpExpOptionsDlg(window, exporting ? 1 : 0, 0), e.attachImpExpOptions,
+                     exporting ? "EXPORT 'C:\\DATA\\BOOK.XLS'" : "IMPORT 'C:\\DATA\\BOOK.XLS'");
+        return;
+    }
+    case kColourPicker: {
+        static float colour = 0.5f;
+        if (!e.colorPickerDialogEx) return;
+        const std::int32_t result = e.colorPickerDialogEx(window, &colour);
+        appendLog("ColorPickerDialogEx = " + std::to_string(result) + ", colour " + std::to_string(colour));
+        return;
+    }
+    case kSamplingJob: runSamplingJob(); return;
+    default: return;
+    }
+}
+
 void onCommand(HWND window, UINT id) {
     switch (id) {
     case kExit: DestroyWindow(window); return;
@@ -110,6 +178,11 @@ void onCommand(HWND window, UINT id) {
         demo->library.reinitDialogs(1);
         appendLog("ReinitDialogs 1");
         return;
+    case kSaveOptions:
+    case kImportOptions:
+    case kExportOptions:
+    case kColourPicker:
+    case kSamplingJob: onHostCommand(window, id); return;
     default:
         if (findDispatchRow(static_cast<std::uint16_t>(id))) {
             const auto result = demo->library.startDialog(id, window, kSampleHelpFile);
@@ -151,6 +224,7 @@ int runDemoHost() {
     }
     installSampleData();
     HostState::instance().setSink(onHostLine);
+    KvsStandinSetLineSink(kernelLine);
 
     const HINSTANCE instance = GetModuleHandleA(nullptr);
     WNDCLASSA windowClass{};
@@ -177,6 +251,7 @@ int runDemoHost() {
     }
     state.watch.stop();
     HostState::instance().setSink(nullptr);
+    KvsStandinSetLineSink(nullptr);
     demo = nullptr;
     return 0;
 }
