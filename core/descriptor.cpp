@@ -13,6 +13,8 @@ namespace {
 // Dialogs whose reset marker starts at -1.
 constexpr std::uint16_t kUnsetMarkerIds[] = {87, 88, 252, 269, 271, 272, 281, 290, 298};
 
+}  // namespace
+
 Descriptor freshDescriptor(const DispatchRow& row) {
     Descriptor d;
     d.resetMarker = std::find(std::begin(kUnsetMarkerIds), std::end(kUnsetMarkerIds), row.id) !=
@@ -31,6 +33,8 @@ Descriptor freshDescriptor(const DispatchRow& row) {
     d.extra = settings.extra;
     return d;
 }
+
+namespace {
 
 std::map<std::uint16_t, Descriptor>& descriptors() {
     static std::map<std::uint16_t, Descriptor> all = [] {

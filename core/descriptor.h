@@ -45,6 +45,9 @@ struct Descriptor {
     std::int32_t tableFirstCapacity = 0;
 };
 
+// A row's descriptor as it is before its dialog was ever opened.
+Descriptor freshDescriptor(const DispatchRow& row);
+
 // The descriptor of a dispatch row that launches a variable dialog, or null.
 Descriptor* descriptorFor(std::uint16_t id);
 

@@ -15,6 +15,15 @@ void openHelpTopic(WindowRef owner, std::uint32_t context) {
     ui().help(request);
 }
 
+int runModalWithTopic(WindowRef owner, std::string_view templateName, DialogHandler& handler, std::uint32_t topic) {
+    LibraryState& lib = library();
+    const std::uint32_t previous = lib.helpContext;
+    lib.helpContext = topic;
+    const int result = ui().runModal(owner, templateName, handler);
+    lib.helpContext = previous;
+    return result;
+}
+
 void answerHelpCommand(int code) {
     const LibraryState& lib = library();
     HelpRequest request;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "core/seam.h"
 
@@ -13,5 +14,10 @@ void openHelpTopic(WindowRef owner, std::uint32_t context);
 // Contents, search, help on help, or the open dialog's topic; other codes
 // are not help requests and do nothing.
 void answerHelpCommand(int code);
+
+// Runs a template modally with topic as the open dialog's help topic (the
+// system menu's context help), the previous topic restored afterwards.
+// Returns what UiServices::runModal returns.
+int runModalWithTopic(WindowRef owner, std::string_view templateName, DialogHandler& handler, std::uint32_t topic);
 
 }  // namespace kvs

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "core/help_requests.h"
-#include "core/library_state.h"
 #include "core/command_text.h"
 #include "core/messages.h"
 #include "data/data_texts.h"
@@ -114,15 +113,11 @@ void appendPiece(CommandText& line, std::string_view prefix, const std::optional
 }  // namespace
 
 int runImportExportOptions(WindowRef owner, std::int32_t exportFlag, std::int32_t value) {
-    LibraryState& lib = library();
     state.exportFlag = exportFlag;
     state.owner = owner;
     state.value = value;
-    const std::uint32_t previousContext = lib.helpContext;
-    lib.helpContext = ImportExportDialog::helpTopic();
     ImportExportDialog dialog;
-    const int result = ui().runModal(owner, text::kImportExportTemplate, dialog);
-    lib.helpContext = previousContext;
+    const int result = runModalWithTopic(owner, text::kImportExportTemplate, dialog, ImportExportDialog::helpTopic());
     state.exportFlag = -1;
     state.owner = 0;
     state.value = 0;

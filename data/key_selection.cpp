@@ -17,15 +17,8 @@ namespace {
 constexpr DispatchRow kKeyRow{kKeySelectionId, "KeyVars", "Key Selection", Family::Data, Launch::Standard, 1, 256, 0,
                               0, 0};
 
-Descriptor freshKeyDescriptor() {
-    Descriptor d;
-    d.firstCapacity = d.tableFirstCapacity = kKeyRow.firstCapacity;
-    d.secondCapacity = kKeyRow.secondCapacity;
-    return d;
-}
-
 Descriptor& keyDescriptor() {
-    static Descriptor d = freshKeyDescriptor();
+    static Descriptor d = freshDescriptor(kKeyRow);
     return d;
 }
 

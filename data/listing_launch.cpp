@@ -10,7 +10,7 @@ constexpr DispatchRow kRows[] = {
     {53, "PrintFormat", "Print Format", Family::Data, Launch::Standard, 1, 0, 0, 0, 0},
 };
 
-Descriptor descriptors[std::size(kRows)];
+Descriptor descriptors[] = {freshDescriptor(kRows[0]), freshDescriptor(kRows[1]), freshDescriptor(kRows[2])};
 
 int indexOf(std::uint16_t id) {
     for (std::size_t i = 0; i < std::size(kRows); ++i)

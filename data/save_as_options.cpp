@@ -2,7 +2,6 @@
 #include <string_view>
 
 #include "core/help_requests.h"
-#include "core/library_state.h"
 #include "data/data_texts.h"
 #include "data/option_dialogs.h"
 #include "resources/options_ids.h"
@@ -64,13 +63,8 @@ private:
 }  // namespace
 
 int runSaveAsOptions(WindowRef owner) {
-    LibraryState& lib = library();
-    const std::uint32_t previousContext = lib.helpContext;
-    lib.helpContext = kHelpTopic;
     SaveAsOptionsDialog dialog;
-    const int result = ui().runModal(owner, text::kSaveAsOptionsTemplate, dialog);
-    lib.helpContext = previousContext;
-    return result == 1 ? 1 : 0;
+    return runModalWithTopic(owner, text::kSaveAsOptionsTemplate, dialog, kHelpTopic) == 1 ? 1 : 0;
 }
 
 void attachSaveAsOptions(char* line) {

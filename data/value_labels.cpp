@@ -23,14 +23,8 @@ constexpr std::size_t kLabelBound = 60;
 // it one: a single variable in list 239.
 constexpr DispatchRow kLabelsRow{kLabelsId, "Labels", "Labels", Family::Data, Launch::Standard, 1, 1, 0, 0, 0};
 
-Descriptor freshDescriptor() {
-    Descriptor d;
-    d.firstCapacity = d.tableFirstCapacity = kLabelsRow.firstCapacity;
-    return d;
-}
-
 Descriptor& labelsDescriptor() {
-    static Descriptor d = freshDescriptor();
+    static Descriptor d = freshDescriptor(kLabelsRow);
     return d;
 }
 

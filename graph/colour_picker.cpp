@@ -3,7 +3,6 @@
 #include <string>
 
 #include "core/help_requests.h"
-#include "core/library_state.h"
 #include "graph/colour_font_texts.h"
 #include "graph/colour_grid.h"
 #include "resources/colour_picker_ids.h"
@@ -59,13 +58,8 @@ private:
 
 int runColourPicker(WindowRef owner, float* colour) {
     if (!colour) return 0;
-    LibraryState& lib = library();
-    const std::uint32_t previousContext = lib.helpContext;
-    lib.helpContext = kColourPickerHelp;
     ColourPicker picker(*colour);
-    const int result = ui().runModal(owner, text::kColourPickerTemplate, picker);
-    lib.helpContext = previousContext;
-    if (result != 1) return 0;
+    if (runModalWithTopic(owner, text::kColourPickerTemplate, picker, kColourPickerHelp) != 1) return 0;
     *colour = static_cast<float>(picker.value());
     return 1;
 }
