@@ -4,45 +4,30 @@
 #include <map>
 
 #include "core/dialog_defaults.h"
-#include "core/families.h"
 
 namespace kvs {
 
-namespace {
-
-// Dialogs whose reset marker starts at -1.
-constexpr std::uint16_t kUnsetMarkerIds[] = {87, 88, 252, 269, 271, 272, 281, 290, 298};
-
-}  // namespace
-
 Descriptor freshDescriptor(const DispatchRow& row) {
     Descriptor d;
-    d.resetMarker = std::find(std::begin(kUnsetMarkerIds), std::end(kUnsetMarkerIds), row.id) !=
-                            std::end(kUnsetMarkerIds)
-                        ? -1
-                        : 0;
+    d.resetMarker = row.has(kMarkerStartsUnset) ? -1 : 0;
     d.firstCapacity = d.tableFirstCapacity = row.firstCapacity;
     d.secondCapacity = row.secondCapacity;
     // A dialog with a second list keeps it across Cancel like the first.
     d.listFlag = row.secondCapacity > 0 ? 1 : 0;
     if (row.launch == Launch::Graph) d.thirdCapacity = d.fourthCapacity = 256;
-    const DescriptorSettings settings = descriptorSettings(row.id);
-    d.switch1 = settings.switch1;
-    d.switch2 = settings.switch2;
-    d.switch3 = settings.switch3;
-    d.extra = settings.extra;
+    d.switch1 = row.switch1;
+    d.switch2 = row.switch2;
+    d.switch3 = row.switch3;
+    d.extra = row.extra;
     return d;
 }
 
 namespace {
 
+// One descriptor for every row that runs a variable dialog, made when the
+// rows are installed.
 std::map<std::uint16_t, Descriptor>& descriptors() {
-    static std::map<std::uint16_t, Descriptor> all = [] {
-        std::map<std::uint16_t, Descriptor> made;
-        for (const DispatchRow& row : dispatchTable())
-            if (row.launch != Launch::Special) made.emplace(row.id, freshDescriptor(row));
-        return made;
-    }();
+    static std::map<std::uint16_t, Descriptor> all;
     return all;
 }
 
@@ -94,24 +79,24 @@ void resetSelection(Descriptor& d, bool freeArrays, int mode) {
 
 void addDescriptorOptionDefaults(DefaultsTable& table) {
     for (auto& [id, descriptor] : descriptors()) {
-        const DescriptorSettings settings = descriptorSettings(id);
-        for (std::size_t i = 0; i < descriptor.extra.size(); ++i) table.word(descriptor.extra[i], settings.extra[i]);
+        const DispatchRow* row = findDialogRow(id);
+        if (!row) continue;
+        for (std::size_t i = 0; i < descriptor.extra.size(); ++i) table.word(descriptor.extra[i], row->extra[i]);
     }
 }
 
 void resetAllSelections(bool freeArrays) {
-    for (const DispatchRow& row : dispatchTable()) {
-        if (Descriptor* d = descriptorFor(row.id)) {
-            // The Let and Standardize records are cleared as mode 1 records.
-            const int mode = (row.id == 67 || row.id == 70) ? 1 : row.mode;
-            resetSelection(*d, freeArrays, mode);
-        }
+    for (const DispatchRow& row : dialogRows()) {
+        if (Descriptor* d = descriptorFor(row.id))
+            resetSelection(*d, freeArrays, row.has(kClearsAsOneList) ? 1 : row.mode);
     }
 }
 
 void resetDescriptorsForLoad() {
-    for (const DispatchRow& row : dispatchTable())
-        if (Descriptor* d = descriptorFor(row.id)) *d = freshDescriptor(row);
+    auto& all = descriptors();
+    all.clear();
+    for (const DispatchRow& row : dialogRows())
+        if (row.launch != Launch::Special) all.emplace(row.id, freshDescriptor(row));
 }
 
 }  // namespace kvs

@@ -7,6 +7,7 @@
 
 namespace kvs {
 
+class DefaultsTable;
 class GenericDialog;
 class VariableCatalogue;
 
@@ -15,14 +16,40 @@ struct DialogContext {
     GenericDialog& dialog;
 };
 
+// What a control reported, told apart by the kind of control, so a list's
+// selection change is never mistaken for a combo box's.
+enum class Event {
+    Clicked,                // a button, check box or radio button
+    ListSelectionChanged,
+    ListDoubleClicked,
+    ComboSelectionChanged,
+    ComboEditChanged,
+    EditChanged,
+    EditFocused,
+    Other,                  // any other notification; see Notification::code
+};
+
+struct Notification {
+    int controlId = 0;
+    Event event = Event::Other;
+    int code = 0;  // the raw notification code
+
+    bool clicked(int id) const { return event == Event::Clicked && controlId == id; }
+};
+
+// The typed form of a raw (control, notification code) pair.
+Notification classify(const DialogView& view, int controlId, int notifyCode);
+
 class DialogBehaviour {
 public:
     virtual ~DialogBehaviour() = default;
     // Sets up the dialog's own controls; returns a control to focus, or 0.
     virtual int init(DialogContext&) { return 0; }
-    // A control other than the shared ones, or OK / Continue. For OK and
-    // Continue, returns 1 to let the dialog close and 0 to keep it open.
-    virtual int command(DialogContext&, int controlId, int notifyCode) = 0;
+    // OK or Continue (buttonId) was clicked: true lets the dialog close with
+    // the selection kept, false keeps it open.
+    virtual bool accept(DialogContext& context, int buttonId) = 0;
+    // A control other than the shared ones and OK reported an event.
+    virtual void notify(DialogContext&, const Notification&) {}
     // "Reset All": the dialog's own controls back to their first state.
     virtual void reset(DialogContext&) {}
     // The dialog is being cancelled.
@@ -34,6 +61,9 @@ public:
     }
     // The context the Help button opens, and the help-context word's value.
     virtual std::uint32_t helpContext(std::uint16_t commandId) const { return commandId; }
+    // Adds what the dialog remembers between openings to the defaults table
+    // that ReinitDialogs applies.
+    virtual void addDefaults(DefaultsTable&) {}
 };
 
 // The one instance of a behaviour class, made on first use.

@@ -1,7 +1,8 @@
 #include "core/dialog_defaults.h"
 
 #include "core/descriptor.h"
-#include "core/families.h"
+#include "core/dialog_behaviour.h"
+#include "core/dispatch_table.h"
 
 namespace kvs {
 
@@ -40,18 +41,31 @@ void DefaultsTable::apply(bool freeMemory) const {
             break;
         }
         case Kind::Routine: row.reset(freeMemory); break;
+        case Kind::Record: row.resetRecord(row.target); break;
         }
     }
 }
 
-const DefaultsTable& dialogDefaults() {
-    static const DefaultsTable table = [] {
-        DefaultsTable t;
-        addDescriptorOptionDefaults(t);
-        addFamilyDefaults(t);
-        return t;
-    }();
+namespace {
+
+DefaultsTable& defaults() {
+    static DefaultsTable table;
     return table;
 }
+
+}  // namespace
+
+void rebuildDialogDefaults() {
+    DefaultsTable t;
+    addDescriptorOptionDefaults(t);
+    for (const FamilyTable& family : installedFamilies()) {
+        if (family.addDefaults) family.addDefaults(t);
+        for (const DispatchRow& row : family.rows)
+            if (row.behaviour) row.behaviour().addDefaults(t);
+    }
+    defaults() = std::move(t);
+}
+
+const DefaultsTable& dialogDefaults() { return defaults(); }
 
 }  // namespace kvs

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "core/families.h"
 #include "core/help_requests.h"
 #include "core/library_state.h"
 #include "core/list_transfer.h"
@@ -12,20 +11,11 @@
 
 namespace kvs {
 
-namespace {
-
-constexpr std::uint16_t kFourListIds[] = {101, 102, 103, 106, 108, 109, 111, 113, 114, 116, 118, 120,
-                                          121, 129, 146, 147, 204, 218, 283, 284, 285, 287, 1124};
-
-}  // namespace
-
 GenericDialog::GenericDialog(const DispatchRow& row, Descriptor& descriptor)
     : row_(row), descriptor_(descriptor), commandId_(row.id),
-      behaviour_(familyBehaviour(row.id)) {}
+      behaviour_(row.behaviour ? &row.behaviour() : nullptr) {}
 
-bool GenericDialog::fourLists() const {
-    return std::find(std::begin(kFourListIds), std::end(kFourListIds), commandId_) != std::end(kFourListIds);
-}
+bool GenericDialog::fourLists() const { return row_.launch == Launch::Graph; }
 
 const VariableCatalogue& GenericDialog::catalogueOf(const DialogView& view, const Target& target) const {
     return target.listId == IDC_TARGET2 && view.has(IDC_SOURCE2) ? secondCatalogue_ : sourceCatalogue_;
@@ -92,7 +82,7 @@ int GenericDialog::onInit(DialogView& view) {
                 fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
         }
         for (Target& target : targets_) {
-            const bool skip = target.listId == IDC_TARGET1 && commandId_ == 289;
+            const bool skip = target.listId == IDC_TARGET1 && row_.has(kNoFirstListRestore);
             if (skip || target.capacity <= 0 || target.array->entries.empty() || target.array->entries[0] == -1)
                 continue;
             restoreSelection(view, target.array->entries, target.capacity, target.listId, catalogueOf(view, target));
@@ -129,13 +119,13 @@ void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
     case kIdOk:
     case IDC_CONTINUE:
         if (notifyCode != kButtonClicked) return;
-        if (!behaviour_ || !behaviour_->command(context, controlId, notifyCode)) return;
+        if (!behaviour_ || !behaviour_->accept(context, controlId)) return;
         for (Target& target : targets_)
             storeSelection(view, target.listId, target.capacity, catalogueOf(view, target), target.array->entries);
         close(view, controlId);
         return;
     default:
-        if (behaviour_) behaviour_->command(context, controlId, notifyCode);
+        if (behaviour_) behaviour_->notify(context, classify(view, controlId, notifyCode));
     }
 }
 

@@ -70,4 +70,10 @@ int launchDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner
     return result == 1 ? 1 : 0;
 }
 
+int launchDialog(std::uint16_t id, WindowRef owner, bool subDialog) {
+    const DispatchRow* row = findDialogRow(id);
+    Descriptor* descriptor = descriptorFor(id);
+    return row && descriptor ? launchDialog(*row, *descriptor, owner, subDialog) : 0;
+}
+
 }  // namespace kvs

@@ -2,7 +2,8 @@
 
 #include "core/command_queue.h"
 #include "core/descriptor.h"
-#include "core/families.h"
+#include "core/dialog_defaults.h"
+#include "core/dispatch_table.h"
 #include "core/file_choosers.h"
 #include "core/file_filters.h"
 #include "core/library_state.h"
@@ -13,7 +14,9 @@ namespace kvs {
 void onLibraryLoad() {
     library() = LibraryState{};
     resetDescriptorsForLoad();
-    resetFamiliesForLoad();
+    for (const FamilyTable& family : installedFamilies())
+        if (family.resetForLoad) family.resetForLoad();
+    rebuildDialogDefaults();
     ReinitDialogs(1);
     prepareFileFilters();
 }

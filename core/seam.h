@@ -39,6 +39,9 @@ inline constexpr int kEditSetFocus = 0x100; // EN_SETFOCUS: an edit control got 
 inline constexpr int kComboSelChange = 1;  // CBN_SELCHANGE
 inline constexpr int kComboEditChange = 5; // CBN_EDITCHANGE
 
+// The kinds of control whose notifications the logic tells apart.
+enum class ControlType { Button, Edit, ListBox, ComboBox, Other };
+
 // The controls of one open dialog, addressed by control id. Operations on an
 // id the dialog does not have do nothing and read as empty.
 class DialogView {
@@ -47,6 +50,7 @@ public:
 
     virtual WindowRef handle() const = 0;
     virtual bool has(int id) const = 0;
+    virtual ControlType controlType(int id) const { (void)id; return ControlType::Other; }
 
     virtual std::string text(int id) const = 0;
     virtual void setText(int id, std::string_view text) = 0;

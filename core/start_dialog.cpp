@@ -4,7 +4,7 @@
 #include "core/command_queue.h"
 #include "core/descriptor.h"
 #include "core/dialog_defaults.h"
-#include "core/families.h"
+#include "core/dispatch_table.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
 #include "include/kvs_dlg.h"
@@ -13,12 +13,9 @@ namespace kvs {
 
 namespace {
 
-// Ids the running dialog must keep its state through a reinitialisation.
-constexpr std::uint16_t kKeepStateWhileRunning[] = {218, 219, 221, 232, 260, 261, 262, 289};
-
 void runCase(const DispatchRow& row, WindowRef owner) {
     if (row.launch == Launch::Special) {
-        runSpecialCommand(row.id);
+        if (row.special) row.special(row.id, owner);
         return;
     }
     Descriptor* descriptor = descriptorFor(row.id);
@@ -80,9 +77,8 @@ std::int32_t startDialog(std::uint32_t commandId, WindowRef owner, const char* h
 std::int32_t reinitDialogs(std::int32_t freeFlag) {
     LibraryState& lib = library();
     lib.optionSlots.fill(-1);
-    if (std::find(std::begin(kKeepStateWhileRunning), std::end(kKeepStateWhileRunning), lib.currentCommandId) !=
-        std::end(kKeepStateWhileRunning))
-        return 1;
+    const DispatchRow* running = findDialogRow(lib.currentCommandId);
+    if (running && running->has(kKeepsStateThroughReinit)) return 1;
     resetAllSelections(freeFlag != 0);
     dialogDefaults().apply(freeFlag != 0);
     return 1;

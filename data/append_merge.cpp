@@ -1,11 +1,13 @@
 #include "data/append_merge.h"
 
 #include "core/command_queue.h"
+#include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
 #include "core/file_choosers.h"
 #include "core/generic_dialog.h"
 #include "core/library_state.h"
 #include "data/data_texts.h"
-#include "data/join_names.h"
+#include "core/join_names.h"
 #include "data/key_selection.h"
 #include "data/text_pieces.h"
 #include "data/save_file_step.h"
@@ -56,19 +58,20 @@ public:
         return 0;
     }
 
-    int command(DialogContext& context, int controlId, int notifyCode) override {
-        DialogView& view = context.view;
-        if (notifyCode != kButtonClicked) return 0;
-        switch (controlId) {
+    void notify(DialogContext& context, const Notification& n) override {
+        if (n.event != Event::Clicked) return;
+        switch (n.controlId) {
         case IDC_APPEND_MATCH:
         case IDC_APPEND_UNION:
-        case IDC_APPEND_INTERSECT: appendState.liveOption = controlId; return 0;
-        case IDC_APPEND_BROWSE1: browse(view, appendState.file1, IDC_APPEND_FILE1); return 0;
-        case IDC_APPEND_BROWSE2: browse(view, appendState.file2, IDC_APPEND_FILE2); return 0;
-        case kIdOk: return ok(view);
-        default: return 0;
+        case IDC_APPEND_INTERSECT: appendState.liveOption = n.controlId; return;
+        case IDC_APPEND_BROWSE1: browse(context.view, appendState.file1, IDC_APPEND_FILE1); return;
+        case IDC_APPEND_BROWSE2: browse(context.view, appendState.file2, IDC_APPEND_FILE2); return;
+        default: return;
         }
     }
+
+    bool accept(DialogContext& context, int) override { return ok(context.view); }
+    void addDefaults(DefaultsTable& table) override { table.record(appendState); }
 
 private:
     static void browse(DialogView& view, const std::string& remembered, int fieldId) {
@@ -76,8 +79,8 @@ private:
         browseForAFile(view, chosen, kBrowseCapacity, remembered, fieldId);
     }
 
-    static int ok(DialogView& view) {
-        if (!runSaveFileStep(view, text::kAppendDefaultFile)) return 0;
+    static bool ok(DialogView& view) {
+        if (!runSaveFileStep(view, text::kAppendDefaultFile)) return false;
         appendState.file1 = nameBlock(view, IDC_APPEND_FILE1);
         appendState.file2 = nameBlock(view, IDC_APPEND_FILE2);
         appendState.confirmedOption = appendState.liveOption;
@@ -88,7 +91,7 @@ private:
         for (int i = 0; i < missing; ++i) showFileNotSpecified(view);
         queue::push(line.c_str(), nullptr);
         library().dataCommand = 1;
-        return 1;
+        return true;
     }
 };
 
@@ -104,17 +107,18 @@ public:
         return true;
     }
 
-    int command(DialogContext& context, int controlId, int notifyCode) override {
-        DialogView& view = context.view;
-        if (notifyCode != kButtonClicked) return 0;
-        switch (controlId) {
-        case IDC_MERGE_BROWSE1: browse(context, mergeState.file1, IDC_MERGE_FILE1, IDC_SOURCE); return 0;
-        case IDC_MERGE_BROWSE2: browse(context, mergeState.file2, IDC_MERGE_FILE2, IDC_SOURCE2); return 0;
-        case IDC_MERGE_KEYS: keys(view); return 0;
-        case kIdOk: return ok(view);
-        default: return 0;
+    void notify(DialogContext& context, const Notification& n) override {
+        if (n.event != Event::Clicked) return;
+        switch (n.controlId) {
+        case IDC_MERGE_BROWSE1: browse(context, mergeState.file1, IDC_MERGE_FILE1, IDC_SOURCE); return;
+        case IDC_MERGE_BROWSE2: browse(context, mergeState.file2, IDC_MERGE_FILE2, IDC_SOURCE2); return;
+        case IDC_MERGE_KEYS: keys(context.view); return;
+        default: return;
         }
     }
+
+    bool accept(DialogContext& context, int) override { return ok(context.view); }
+    void addDefaults(DefaultsTable& table) override { table.record(mergeState); }
 
     std::uint32_t helpContext(std::uint16_t) const override { return kMergeHelpContext; }
 
@@ -132,9 +136,9 @@ private:
         library().helpContext = context;
     }
 
-    static int ok(DialogView& view) {
+    static bool ok(DialogView& view) {
         // A SAVE line queued here stays queued even when OK is refused below.
-        if (!runSaveFileStep(view, "")) return 0;
+        if (!runSaveFileStep(view, "")) return false;
         mergeState.file1 = nameBlock(view, IDC_MERGE_FILE1);
         mergeState.file2 = nameBlock(view, IDC_MERGE_FILE2);
         CommandText names1, names2;
@@ -144,10 +148,10 @@ private:
         if (!composeMergeLine(mergeState.file1, names1.str(), mergeState.file2, names2.str(), keyFlag(), keyText(),
                               line)) {
             showFileNotSpecified(view);
-            return 0;
+            return false;
         }
         queue::push(line.c_str(), nullptr);
-        return 1;
+        return true;
     }
 };
 
@@ -188,9 +192,5 @@ bool composeMergeLine(std::string_view file1, std::string_view names1, std::stri
 DialogBehaviour& appendBehaviour() { return soleInstance<AppendDialog>(); }
 DialogBehaviour& mergeBehaviour() { return soleInstance<MergeDialog>(); }
 
-void resetAppendMergeDefaults() {
-    appendState = AppendState{};
-    mergeState = MergeState{};
-}
 
 }  // namespace kvs::data

@@ -13,9 +13,6 @@ namespace kvs::data {
 // Longest file name a name block keeps.
 inline constexpr std::size_t kFileNameLength = 255;
 
-DialogBehaviour& appendBehaviour();
-DialogBehaviour& mergeBehaviour();
-
 // "APPEND file1 file2 / OPTION" (option 31, 32 or 33; anything else leaves
 // the line ending in " / "). Returns how many of the two names were blank.
 int composeAppendLine(std::string_view file1, std::string_view file2, int option, CommandText& line);
@@ -26,7 +23,5 @@ int composeAppendLine(std::string_view file1, std::string_view file2, int option
 // empty.
 bool composeMergeLine(std::string_view file1, std::string_view names1, std::string_view file2,
                       std::string_view names2, int keyFlag, std::string_view keys, CommandText& line);
-
-void resetAppendMergeDefaults();
 
 }  // namespace kvs::data

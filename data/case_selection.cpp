@@ -45,7 +45,7 @@ public:
     }
 
 protected:
-    int accept(DialogView& view) override {
+    bool acceptRows(DialogView& view) override {
         ConditionState& s = conditionState();
         s.selectOff = view.isChecked(IDC_SELECT_OFF);
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
@@ -59,15 +59,15 @@ protected:
         s.complete = view.isChecked(IDC_SELECT_COMPLETE);
         if (s.selectOff) {
             queue::push(std::string(text::kSelectOff).c_str(), nullptr);
-            return 1;
+            return true;
         }
         CommandText line;
         if (!composeSelect(s, line, false)) {
             showStop(ui().focusWindow(), text::kIncomplete);
-            return 0;
+            return false;
         }
         queue::push(line.c_str(), nullptr);
-        return 1;
+        return true;
     }
 
     // A row is open only while every row above it is complete. The

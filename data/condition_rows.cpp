@@ -15,7 +15,7 @@ ConditionState state;
 }  // namespace
 
 ConditionState& conditionState() { return state; }
-void resetConditionDefaults() { state = ConditionState{}; }
+void addConditionDefaults(DefaultsTable& table) { table.record(state); }
 
 bool isCharacterExpression(std::string_view value) {
     if (value.find_first_of("\"'$") != std::string_view::npos) return true;
@@ -129,51 +129,52 @@ void ConditionDialog::insertAtCaret(DialogView& view, std::string_view insert, s
     fieldsChanged(view);
 }
 
-int ConditionDialog::command(DialogContext& context, int controlId, int notifyCode) {
+bool ConditionDialog::accept(DialogContext& context, int) { return acceptRows(context.view); }
+
+void ConditionDialog::notify(DialogContext& context, const Notification& n) {
     DialogView& view = context.view;
-    if (controlId == kIdOk) return accept(view);
-    if (isField(controlId)) {
-        if (notifyCode == kEditSetFocus) remembered_ = controlId;
-        else if (notifyCode == kEditChange) fieldsChanged(view);
-        return 0;
+    const int id = n.controlId;
+    if (isField(id)) {
+        if (n.event == Event::EditFocused) remembered_ = id;
+        else if (n.event == Event::EditChanged) fieldsChanged(view);
+        return;
     }
-    switch (controlId) {
+    switch (id) {
     case IDC_SOURCE:
     case IDC_SOURCE2:
-        if (notifyCode == kListSelChange) listChosen(view, controlId);
-        else if (notifyCode == kListDblClick) insertFromList(view, controlId);
-        return 0;
+        if (n.event == Event::ListSelectionChanged) listChosen(view, id);
+        else if (n.event == Event::ListDoubleClicked) insertFromList(view, id);
+        return;
     case IDC_ADD1:
     case IDC_ADD2:
-        if (notifyCode == kButtonClicked) insertFromList(view, controlId == IDC_ADD1 ? IDC_SOURCE : IDC_SOURCE2);
-        return 0;
+        if (n.event == Event::Clicked) insertFromList(view, id == IDC_ADD1 ? IDC_SOURCE : IDC_SOURCE2);
+        return;
     case IDC_FUNCTION_TYPE:
-        if (notifyCode == kComboSelChange) showFunctions(view);
-        return 0;
+        if (n.event == Event::ComboSelectionChanged) showFunctions(view);
+        return;
     case IDC_FUNCTIONS:
-        if (notifyCode == kListSelChange) view.enable(IDC_ADD_FUNCTION, !view.listSelection(IDC_FUNCTIONS).empty());
-        else if (notifyCode == kListDblClick) insertFromList(view, IDC_FUNCTIONS);
-        return 0;
+        if (n.event == Event::ListSelectionChanged) view.enable(IDC_ADD_FUNCTION, !view.listSelection(IDC_FUNCTIONS).empty());
+        else if (n.event == Event::ListDoubleClicked) insertFromList(view, IDC_FUNCTIONS);
+        return;
     case IDC_ADD_FUNCTION:
-        if (notifyCode == kButtonClicked) insertFromList(view, IDC_FUNCTIONS);
-        return 0;
+        if (n.event == Event::Clicked) insertFromList(view, IDC_FUNCTIONS);
+        return;
     default: break;
     }
-    if (notifyCode != kComboSelChange) return 0;
+    if (n.event != Event::ComboSelectionChanged) return;
     for (int row = 0; row < operatorRows_; ++row) {
-        if (controlId == operatorBox(row)) {
+        if (id == operatorBox(row)) {
             focusField(view, valueField(row));
-            return 0;
+            return;
         }
     }
     for (int row = 0; row < kConditionRows; ++row) {
-        if ((row > 0 && controlId == connectorBox(row)) || (row == 0 && controlId == IDC_IF_CHOICE)) {
+        if ((row > 0 && id == connectorBox(row)) || (row == 0 && id == IDC_IF_CHOICE)) {
             connectorChosen(view, row);
             focusField(view, variableField(row));
-            return 0;
+            return;
         }
     }
-    return 0;
 }
 
 }  // namespace kvs::data

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
 #include "data/text_pieces.h"
 
 namespace kvs::data {
@@ -39,7 +40,8 @@ struct ConditionState {
 };
 
 ConditionState& conditionState();
-void resetConditionDefaults();
+// The rows the three dialogs share, for ReinitDialogs.
+void addConditionDefaults(DefaultsTable& table);
 
 // A value that already is a character expression: it holds a quote, an
 // apostrophe, a "$" or the name of a character function.
@@ -61,14 +63,15 @@ int connectorBox(int row);    // 167..169 for rows 1 to 3 (0-based), 0 for row 0
 // Add 6 and 8, Add 153 and double clicks insert at its caret.
 class ConditionDialog : public DialogBehaviour {
 public:
-    int command(DialogContext& context, int controlId, int notifyCode) override;
+    bool accept(DialogContext& context, int buttonId) override;
+    void notify(DialogContext& context, const Notification& n) override;
 
 protected:
     // operatorRows: how many rows carry an operator drop-down.
     explicit ConditionDialog(int operatorRows) : operatorRows_(operatorRows) {}
 
-    // The OK button of the dialog.
-    virtual int accept(DialogView& view) = 0;
+    // The OK button of the dialog: true closes it.
+    virtual bool acceptRows(DialogView& view) = 0;
     // A variable or value field's text changed, by the user or by an insertion.
     virtual void fieldsChanged(DialogView&) {}
     // A connector (or the IF choice) was chosen.

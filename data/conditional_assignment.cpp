@@ -40,17 +40,17 @@ public:
 protected:
     bool isField(int id) const override { return id == IDC_ROW_VARIABLE1 || id == IDC_ROW_VALUE1; }
 
-    int accept(DialogView& view) override {
+    bool acceptRows(DialogView& view) override {
         ConditionState& s = conditionState();
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
         s.rows[0] = readRow(view, 0, s.rows[0]);
         CommandText line;
         if (!composeLet(s, line)) {
             refuse();
-            return 0;
+            return false;
         }
         queue::push(line.c_str(), nullptr);
-        return 1;
+        return true;
     }
 };
 
@@ -93,7 +93,7 @@ public:
     }
 
 protected:
-    int accept(DialogView& view) override {
+    bool acceptRows(DialogView& view) override {
         ConditionState& s = conditionState();
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
         s.ifNot = view.comboSelection(IDC_IF_CHOICE) == 1;
@@ -106,10 +106,10 @@ protected:
         CommandText line;
         if (!composeIfThenLet(s, line)) {
             refuse();
-            return 0;
+            return false;
         }
         queue::push(line.c_str(), nullptr);
-        return 1;
+        return true;
     }
 
     void connectorChosen(DialogView& view, int row) override {

@@ -1,4 +1,4 @@
-#include "data/editor_extract.h"
+#include "core/seam.h"
 
 #include <string>
 
@@ -11,7 +11,7 @@
 
 namespace kvs::data {
 
-void runEditorExtract() {
+void runEditorExtract(std::uint16_t, WindowRef owner) {
     LibraryState& lib = library();
     if (lib.dialogUp) {
         showStop(ui().focusWindow(), kvs::text::kOneDialog);
@@ -19,7 +19,7 @@ void runEditorExtract() {
     }
     std::string path;
     lib.dialogUp = true;
-    const bool chosen = chooseSaveFile(lib.hostWindow, text::kExtractTitle, path);
+    const bool chosen = chooseSaveFile(owner, text::kExtractTitle, path);
     lib.dialogUp = false;
     if (!chosen) return;
     CommandText line(text::kExtractStart);

@@ -3,50 +3,52 @@
 #include <new>
 
 #include "core/command_text.h"
+#include "data/data_family.h"
 #include "core/descriptor.h"
+#include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
 #include "core/launcher.h"
 #include "core/messages.h"
-#include "data/join_names.h"
+#include "core/join_names.h"
 #include "resources/common_ids.h"
 
 namespace kvs::data {
 
 namespace {
 
-// Not a menu entry: StartDialog(91) shows nothing; only Merge opens it.
-constexpr DispatchRow kKeyRow{kKeySelectionId, "KeyVars", "Key Selection", Family::Data, Launch::Standard, 1, 256, 0,
-                              0, 0};
+struct KeySettings {
+    int flag = 0;  // 1 once a key selection was confirmed
+    std::string keys;
+};
 
-Descriptor& keyDescriptor() {
-    static Descriptor d = freshDescriptor(kKeyRow);
-    return d;
-}
-
-int flag = 0;
-
-std::string& keys() {
-    static std::string text;
-    return text;
-}
+KeySettings settings;
 
 class KeySelectionDialog : public DialogBehaviour {
 public:
-    int command(DialogContext& context, int controlId, int) override {
-        if (controlId != kIdOk) return 0;
+    bool accept(DialogContext& context, int) override {
         DialogView& view = context.view;
         CommandText joined;
         if (joinNames(view, IDC_TARGET1, joined, ' ') == 0) {
             showStop(view.handle(), kvs::text::kSelectVariables);
-            return 0;
+            return false;
         }
         try {
             std::string fresh = joined.str();
-            keys().swap(fresh);
+            settings.keys.swap(fresh);
         } catch (const std::bad_alloc&) {
             showNoMemory(view.handle());
-            return 0;
+            return false;
         }
-        return 1;
+        return true;
+    }
+
+    // The selection goes with the keys: its arrays are released whatever
+    // ReinitDialogs is asked to do.
+    void addDefaults(DefaultsTable& table) override {
+        table.record(settings);
+        table.routine([](bool) {
+            if (Descriptor* d = descriptorFor(kKeySelectionId)) resetSelection(*d, true, 1);
+        });
     }
 };
 
@@ -55,18 +57,12 @@ public:
 DialogBehaviour& keySelectionBehaviour() { return soleInstance<KeySelectionDialog>(); }
 
 int runKeySelection(WindowRef owner) {
-    const int result = launchDialog(kKeyRow, keyDescriptor(), owner, true);
-    if (result == 1) flag = 1;
+    const int result = launchDialog(kKeySelectionId, owner, true);
+    if (result == 1) settings.flag = 1;
     return result;
 }
 
-int keyFlag() { return flag; }
-const std::string& keyText() { return keys(); }
-
-void resetKeySelection() {
-    flag = 0;
-    keys().clear();
-    resetSelection(keyDescriptor(), true, kKeyRow.mode);
-}
+int keyFlag() { return settings.flag; }
+const std::string& keyText() { return settings.keys; }
 
 }  // namespace kvs::data

@@ -4,13 +4,9 @@
 
 #include <string>
 
-#include "core/dialog_behaviour.h"
+#include "core/seam.h"
 
 namespace kvs::data {
-
-inline constexpr std::uint16_t kKeySelectionId = 91;
-
-DialogBehaviour& keySelectionBehaviour();
 
 // Runs the key selection over the owner dialog; on OK the key flag is set.
 // Returns 1 on OK, 0 otherwise.
@@ -20,7 +16,5 @@ int runKeySelection(WindowRef owner);
 int keyFlag();
 // The chosen key names separated by single blanks.
 const std::string& keyText();
-
-void resetKeySelection();
 
 }  // namespace kvs::data

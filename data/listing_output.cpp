@@ -2,10 +2,11 @@
 // data, so they leave the data-command flag alone.
 #include <charconv>
 
-#include "data/listing_compose.h"
-#include "data/listing_dialogs.h"
+#include "core/bindings.h"
+#include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
+#include "data/composers.h"
 #include "data/data_texts.h"
-#include "resources/data_ids.h"
 
 namespace kvs::data {
 
@@ -14,15 +15,6 @@ namespace {
 struct PageTitleSettings {
     TextLines titles;
     bool off = false;
-};
-
-struct PrintSettings {
-    int pages = IDC_PRINT_PORTRAIT;   // 32/33, stored at each click
-    int length = IDC_PRINT_LONG;      // 34/35, stored at each click
-    std::string decimals{text::kDefaultDecimals};
-    int decimalsNumber = 3;
-    bool underflow = false;
-    bool pageNumbers = false;
 };
 
 TextLines noteLines;
@@ -37,8 +29,7 @@ void showLines(DialogView& view, const TextLines& lines, std::size_t limit) {
 }
 
 void readLines(const DialogView& view, TextLines& lines, std::size_t limit) {
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        lines[i] = listing::fieldText(view, IDC_TEXT_LINE1 + static_cast<int>(i), limit);
+    for (std::size_t i = 0; i < lines.size(); ++i) lines[i] = bounded(view.text(IDC_TEXT_LINE1 + static_cast<int>(i)), limit);
 }
 
 // The leading number of a text, 0 when there is none.
@@ -57,14 +48,15 @@ public:
         return 0;
     }
 
-    int command(DialogContext& context, int controlId, int) override {
-        if (controlId != kIdOk) return 0;
+    // A blank first line queues nothing; the dialog still closes.
+    bool accept(DialogContext& context, int) override {
         readLines(context.view, noteLines, kNoteFieldLimit);
         CommandText line;
-        // A blank first line queues nothing; the dialog still closes.
-        if (composeNote(noteLines, line)) listing::queueLine(line, false);
-        return 1;
+        if (composeNote(noteLines, line)) deliver(context.view.handle(), Composition().add(line));
+        return true;
     }
+
+    void addDefaults(DefaultsTable& table) override { table.record(noteLines); }
 };
 
 class PageTitleDialog : public DialogBehaviour {
@@ -75,63 +67,61 @@ public:
         return 0;
     }
 
-    int command(DialogContext& context, int controlId, int) override {
-        if (controlId != kIdOk) return 0;
+    bool accept(DialogContext& context, int) override {
         readLines(context.view, pageTitle.titles, kTitleFieldLimit);
         pageTitle.off = context.view.isChecked(IDC_TITLE_OFF);
         CommandText line;
         composePageTitle(pageTitle.titles, pageTitle.off, line);
-        listing::queueLine(line, false);
-        return 1;
+        return deliver(context.view.handle(), Composition().add(line));
     }
+
+    void addDefaults(DefaultsTable& table) override { table.record(pageTitle); }
 };
+
+const Bindings<PrintSettings>& printBindings() {
+    static const Bindings<PrintSettings> bindings =
+        Bindings<PrintSettings>()
+            .radio({IDC_PRINT_PORTRAIT, IDC_PRINT_LANDSCAPE}, &PrintSettings::pages, Commit::OnClick)
+            .radio({IDC_PRINT_SHORT, IDC_PRINT_LONG}, &PrintSettings::length, Commit::OnClick)
+            .text(IDC_PRINT_DECIMALS, &PrintSettings::decimals, kDecimalsFieldLimit)
+            .check(IDC_PRINT_UNDERFLOW, &PrintSettings::underflow)
+            .check(IDC_PRINT_PAGE_NUMBERS, &PrintSettings::pageNumbers);
+    return bindings;
+}
 
 class PrintFormatDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
-        DialogView& view = context.view;
-        listing::showChoice(view, IDC_PRINT_PORTRAIT, IDC_PRINT_LANDSCAPE, print.pages);
-        listing::showChoice(view, IDC_PRINT_SHORT, IDC_PRINT_LONG, print.length);
-        view.limitText(IDC_PRINT_DECIMALS, kDecimalsFieldLimit);
-        view.setText(IDC_PRINT_DECIMALS, print.decimals);
-        view.setChecked(IDC_PRINT_UNDERFLOW, print.underflow);
-        view.setChecked(IDC_PRINT_PAGE_NUMBERS, print.pageNumbers);
+        printBindings().show(context.view, print);
         return 0;
     }
 
-    int command(DialogContext& context, int controlId, int notifyCode) override {
-        DialogView& view = context.view;
-        if (notifyCode == kButtonClicked) {
-            if (controlId == IDC_PRINT_PORTRAIT || controlId == IDC_PRINT_LANDSCAPE) print.pages = controlId;
-            if (controlId == IDC_PRINT_SHORT || controlId == IDC_PRINT_LONG) print.length = controlId;
-        }
-        if (controlId != kIdOk) return 0;
-        print.decimals = listing::fieldText(view, IDC_PRINT_DECIMALS, kDecimalsFieldLimit);
-        print.decimalsNumber = leadingNumber(print.decimals);
-        print.underflow = view.isChecked(IDC_PRINT_UNDERFLOW);
-        print.pageNumbers = view.isChecked(IDC_PRINT_PAGE_NUMBERS);
-
-        CommandText line(text::kPrint);
-        line.append(print.length == IDC_PRINT_SHORT ? text::kPrintShort : text::kPrintLong);
-        listing::queueLine(line, false);
-        line.clear();
-        line.append(text::kFormat).append(print.decimals);
-        if (print.underflow) line.append(text::kUnderflow);
-        listing::queueLine(line, false);
-        return 1;
+    void notify(DialogContext& context, const Notification& n) override {
+        if (n.event == Event::Clicked) printBindings().clicked(context.view, n.controlId, print);
     }
+
+    bool accept(DialogContext& context, int) override {
+        printBindings().read(context.view, print);
+        print.decimalsNumber = leadingNumber(print.decimals);
+        return deliver(context.view.handle(), composePrintFormat(print));
+    }
+
+    void addDefaults(DefaultsTable& table) override { table.record(print); }
 };
 
 }  // namespace
 
+Composition composePrintFormat(const PrintSettings& s) {
+    Composition composition;
+    composition.add(CommandText(text::kPrint).append(s.length == IDC_PRINT_SHORT ? text::kPrintShort : text::kPrintLong));
+    CommandText format(text::kFormat);
+    format.append(s.decimals);
+    if (s.underflow) format.append(text::kUnderflow);
+    return composition.add(format);
+}
+
 DialogBehaviour& noteBehaviour() { return soleInstance<NoteDialog>(); }
 DialogBehaviour& pageTitleBehaviour() { return soleInstance<PageTitleDialog>(); }
 DialogBehaviour& printFormatBehaviour() { return soleInstance<PrintFormatDialog>(); }
-
-void listing::resetOutputDialogs() {
-    noteLines = {};
-    pageTitle = {};
-    print = {};
-}
 
 }  // namespace kvs::data

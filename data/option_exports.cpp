@@ -1,5 +1,4 @@
 // The exported entry points of the save-as and import/export options.
-#include "core/families.h"
 #include "data/option_dialogs.h"
 #include "include/kvs_dlg.h"
 

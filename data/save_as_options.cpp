@@ -2,6 +2,7 @@
 #include <string_view>
 
 #include "core/help_requests.h"
+#include "core/option_dialog.h"
 #include "data/data_texts.h"
 #include "data/option_dialogs.h"
 #include "resources/options_ids.h"
@@ -22,48 +23,24 @@ constexpr SaveAsKind kKinds[] = {
 
 constexpr std::uint32_t kHelpTopic = 32;
 
-// The kind in force, and the one shown while the dialog is open.
-std::int32_t committedKind = IDC_SAVEAS_RECT;
-std::int32_t workingKind = IDC_SAVEAS_RECT;
-
-bool isKind(int id) { return id >= IDC_SAVEAS_RECT && id <= IDC_SAVEAS_SIM; }
-
-class SaveAsOptionsDialog : public DialogHandler {
-public:
-    int onInit(DialogView& view) override {
-        view.centre();
-        workingKind = committedKind;
-        show(view);
-        return 0;
-    }
-
-    void onCommand(DialogView& view, int controlId, int notifyCode) override {
-        if (notifyCode != kButtonClicked) return;
-        if (isKind(controlId)) {
-            workingKind = controlId;
-            show(view);
-        } else if (controlId == kIdOk) {
-            committedKind = workingKind;
-            view.end(1);
-        } else if (controlId == kIdCancel) {
-            view.end(0);
-        } else if (controlId == IDC_HELPBUTTON) {
-            openHelpTopic(view.handle(), kHelpTopic);
-        }
-    }
-
-    void onSysCommand(DialogView&, int code) override { answerHelpCommand(code); }
-
-private:
-    static void show(DialogView& view) {
-        for (const SaveAsKind& kind : kKinds) view.setChecked(kind.id, kind.id == workingKind);
-    }
+// The kind in force; the dialog works on a copy until OK.
+struct SaveAsSettings {
+    int kind = IDC_SAVEAS_RECT;
 };
+
+SaveAsSettings saveAs;
+
+const Bindings<SaveAsSettings>& saveAsBindings() {
+    static const Bindings<SaveAsSettings> bindings = Bindings<SaveAsSettings>().radio(
+        {IDC_SAVEAS_RECT, IDC_SAVEAS_SSCP, IDC_SAVEAS_COV, IDC_SAVEAS_CORR, IDC_SAVEAS_DISS, IDC_SAVEAS_SIM},
+        &SaveAsSettings::kind, Commit::OnClick);
+    return bindings;
+}
 
 }  // namespace
 
 int runSaveAsOptions(WindowRef owner) {
-    SaveAsOptionsDialog dialog;
+    OptionDialog<SaveAsSettings> dialog(saveAs, saveAsBindings(), kHelpTopic);
     return runModalWithTopic(owner, text::kSaveAsOptionsTemplate, dialog, kHelpTopic) == 1 ? 1 : 0;
 }
 
@@ -74,13 +51,13 @@ void attachSaveAsOptions(char* line) {
     std::memcpy(line + length, clause.data(), clause.size());
     length += clause.size();
     for (const SaveAsKind& kind : kKinds) {
-        if (kind.id != committedKind) continue;
+        if (kind.id != saveAs.kind) continue;
         std::memcpy(line + length, kind.keyword.data(), kind.keyword.size());
         length += kind.keyword.size();
     }
     line[length] = '\0';
 }
 
-void resetSaveAsOptions() { committedKind = workingKind = IDC_SAVEAS_RECT; }
+void resetSaveAsOptions() { saveAs = SaveAsSettings{}; }
 
 }  // namespace kvs::data

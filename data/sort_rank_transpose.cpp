@@ -1,80 +1,68 @@
-#include "data/sort_rank_transpose.h"
-
-#include "core/command_queue.h"
-#include "core/command_text.h"
+// Sort, Rank and Transpose: one line each from the names of target list 10,
+// after the "Save file" step.
+#include "core/bindings.h"
+#include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
 #include "core/messages.h"
+#include "data/composers.h"
 #include "data/data_texts.h"
-#include "data/join_names.h"
 #include "data/save_file_step.h"
-#include "resources/data_ids.h"
 
 namespace kvs::data {
 
 namespace {
 
-constexpr int kMaxSortKeys = 10;
+struct SortSettings {
+    int liveOrder = IDC_SORT_ASCENDING;       // as last clicked, kept even when cancelled
+    int confirmedOrder = IDC_SORT_ASCENDING;  // as of the last OK
+};
 
-// The order as last clicked (kept even when the dialog is cancelled) and as
-// confirmed by the last OK.
-std::int32_t liveSortOrder = IDC_SORT_ASCENDING;
-std::int32_t confirmedSortOrder = IDC_SORT_ASCENDING;
+SortSettings sortSettings;
 
-bool isOk(int controlId) { return controlId == kIdOk; }
+const Bindings<SortSettings>& sortBindings() {
+    static const Bindings<SortSettings> bindings = Bindings<SortSettings>().radio(
+        {IDC_SORT_ASCENDING, IDC_SORT_DESCENDING}, &SortSettings::liveOrder, Commit::OnClick);
+    return bindings;
+}
+
+// The save step runs before the composition, so a refused list keeps the
+// SAVE line the step queued.
+bool saveThenDeliver(DialogView& view, const Composition& composition) {
+    return runSaveFileStep(view, "") && deliver(view.handle(), composition);
+}
 
 class SortDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
-        showOrder(context.view, liveSortOrder);
+        sortBindings().show(context.view, sortSettings);
         return 0;
     }
 
-    int command(DialogContext& context, int controlId, int) override {
-        if (controlId == IDC_SORT_ASCENDING || controlId == IDC_SORT_DESCENDING) {
-            liveSortOrder = controlId;
-            return 0;
-        }
-        if (!isOk(controlId)) return 0;
-        DialogView& view = context.view;
-        confirmedSortOrder = liveSortOrder;
-        if (!runSaveFileStep(view, "")) return 0;
-        const int count = view.listCount(IDC_TARGET1);
-        if (count == 0) {
-            showStop(view.handle(), kvs::text::kSelectVariables);
-            return 0;
-        }
-        CommandText line(text::kSort);
-        for (int i = 0; i < count && i < kMaxSortKeys; ++i) line.append(view.listText(IDC_TARGET1, i)).append(' ');
-        if (confirmedSortOrder == IDC_SORT_DESCENDING) line.append(text::kDescending);
-        queue::push(line.c_str(), nullptr);
-        return 1;
+    void notify(DialogContext& context, const Notification& n) override {
+        if (n.event == Event::Clicked) sortBindings().clicked(context.view, n.controlId, sortSettings);
+    }
+
+    bool accept(DialogContext& context, int) override {
+        sortSettings.confirmedOrder = sortSettings.liveOrder;
+        if (!runSaveFileStep(context.view, "")) return false;
+        const Names keys = listNames(context.view, IDC_TARGET1);
+        return deliver(context.view.handle(), composeSort(keys, sortSettings.confirmedOrder));
     }
 
     void reset(DialogContext& context) override {
-        liveSortOrder = IDC_SORT_ASCENDING;
-        showOrder(context.view, liveSortOrder);
+        sortSettings.liveOrder = IDC_SORT_ASCENDING;
+        sortBindings().show(context.view, sortSettings);
         context.view.setChecked(IDC_SAVEFILE, false);
     }
 
-private:
-    static void showOrder(DialogView& view, int order) {
-        view.setChecked(IDC_SORT_ASCENDING, order == IDC_SORT_ASCENDING);
-        view.setChecked(IDC_SORT_DESCENDING, order == IDC_SORT_DESCENDING);
-    }
+    void addDefaults(DefaultsTable& table) override { table.record(sortSettings); }
 };
 
 class RankDialog : public DialogBehaviour {
 public:
-    int command(DialogContext& context, int controlId, int) override {
-        if (!isOk(controlId)) return 0;
-        DialogView& view = context.view;
-        if (!runSaveFileStep(view, "")) return 0;
-        CommandText line(text::kRank);
-        if (joinNames(view, IDC_TARGET1, line, ' ') == 0) {
-            showStop(view.handle(), kvs::text::kSelectVariables);
-            return 0;
-        }
-        queue::push(line.c_str(), nullptr);
-        return 1;
+    bool accept(DialogContext& context, int) override {
+        if (!runSaveFileStep(context.view, "")) return false;
+        return deliver(context.view.handle(), composeRank(listNames(context.view, IDC_TARGET1)));
     }
 
     void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }
@@ -82,16 +70,8 @@ public:
 
 class TransposeDialog : public DialogBehaviour {
 public:
-    int command(DialogContext& context, int controlId, int) override {
-        if (!isOk(controlId)) return 0;
-        DialogView& view = context.view;
-        if (!runSaveFileStep(view, "")) return 0;
-        // An empty list still gives "TRANSPOSE ": the kernel reports it.
-        CommandText line(text::kTranspose);
-        const int count = view.listCount(IDC_TARGET1);
-        for (int i = 0; i < count; ++i) line.append(view.listText(IDC_TARGET1, i)).append(' ');
-        queue::push(line.c_str(), nullptr);
-        return 1;
+    bool accept(DialogContext& context, int) override {
+        return saveThenDeliver(context.view, composeTranspose(listNames(context.view, IDC_TARGET1)));
     }
 
     void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }
@@ -99,13 +79,28 @@ public:
 
 }  // namespace
 
+Composition composeSort(const Names& keys, int order) {
+    if (keys.empty()) return Composition::refuse(kvs::text::kSelectVariables);
+    CommandText line(text::kSort);
+    for (std::size_t i = 0; i < keys.size() && i < kMaxSortKeys; ++i) line.append(keys[i]).append(' ');
+    if (order == IDC_SORT_DESCENDING) line.append(text::kDescending);
+    return Composition().add(line);
+}
+
+Composition composeRank(const Names& names) {
+    CommandText line(text::kRank);
+    if (joinNames(names, line, ' ') == 0) return Composition::refuse(kvs::text::kSelectVariables);
+    return Composition().add(line);
+}
+
+Composition composeTranspose(const Names& names) {
+    CommandText line(text::kTranspose);
+    for (const std::string& name : names) line.append(name).append(' ');
+    return Composition().add(line);
+}
+
 DialogBehaviour& sortBehaviour() { return soleInstance<SortDialog>(); }
 DialogBehaviour& rankBehaviour() { return soleInstance<RankDialog>(); }
 DialogBehaviour& transposeBehaviour() { return soleInstance<TransposeDialog>(); }
-
-void addSortDefaults(DefaultsTable& table) {
-    table.word(liveSortOrder, IDC_SORT_ASCENDING);
-    table.word(confirmedSortOrder, IDC_SORT_ASCENDING);
-}
 
 }  // namespace kvs::data

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/command_queue.h"
+#include "core/dialog_behaviour.h"
 #include "core/command_text.h"
-#include "core/launcher.h"
 #include "core/library_state.h"
 #include "core/messages.h"
 #include "data/data_texts.h"
@@ -15,18 +15,8 @@ namespace kvs::data {
 
 namespace {
 
-constexpr std::uint16_t kLabelsId = 78;
 constexpr std::size_t kValueBound = 32;
 constexpr std::size_t kLabelBound = 60;
-
-// Menu entry 78 has no variable dialog of the standard table; this row gives
-// it one: a single variable in list 239.
-constexpr DispatchRow kLabelsRow{kLabelsId, "Labels", "Labels", Family::Data, Launch::Standard, 1, 1, 0, 0, 0};
-
-Descriptor& labelsDescriptor() {
-    static Descriptor d = freshDescriptor(kLabelsRow);
-    return d;
-}
 
 std::string trimmed(std::string_view text) {
     const auto first = text.find_first_not_of(' ');
@@ -50,22 +40,14 @@ public:
         return 0;
     }
 
-    int command(DialogContext& context, int controlId, int notifyCode) override {
+    void notify(DialogContext& context, const Notification& n) override {
         DialogView& view = context.view;
-        switch (controlId) {
-        case IDC_LABEL_ADD:
-            if (notifyCode == kButtonClicked) addLabel(view);
-            return 0;
-        case IDC_LABEL_REMOVE:
-            if (notifyCode == kButtonClicked) removeLabel(view);
-            return 0;
-        case IDC_LABEL_LIST:
-            if (notifyCode == kListSelChange) showSelected(view);
-            return 0;
-        case kIdOk: return accept(view);
-        default: return 0;
-        }
+        if (n.clicked(IDC_LABEL_ADD)) addLabel(view);
+        else if (n.clicked(IDC_LABEL_REMOVE)) removeLabel(view);
+        else if (n.controlId == IDC_LABEL_LIST && n.event == Event::ListSelectionChanged) showSelected(view);
     }
+
+    bool accept(DialogContext& context, int) override { return acceptLabels(context.view); }
 
     void reset(DialogContext& context) override {
         init(context);
@@ -119,15 +101,15 @@ private:
         view.enable(IDC_LABEL_REMOVE, false);
     }
 
-    int accept(DialogView& view) {
+    bool acceptLabels(DialogView& view) {
         const std::string variable = variableOf(view);
         if (variable.empty()) {
             showStop(view.handle(), kvs::text::kSelectVariables);
-            return 0;
+            return false;
         }
         queue::push(composeLabelLine(variable, labels_).c_str(), nullptr);
         library().dataCommand = 1;
-        return 1;
+        return true;
     }
 
     std::vector<ValueLabel> labels_;
@@ -145,12 +127,6 @@ std::string composeLabelLine(const std::string& variable, const std::vector<Valu
     return line.str();
 }
 
-void runValueLabels() { launchDialog(kLabelsRow, labelsDescriptor(), library().hostWindow); }
-
 DialogBehaviour& valueLabelsBehaviour() { return soleInstance<ValueLabelsDialog>(); }
-
-void addValueLabelDefaults(DefaultsTable& table) {
-    table.routine([](bool freeMemory) { resetSelection(labelsDescriptor(), freeMemory, kLabelsRow.mode); });
-}
 
 }  // namespace kvs::data

@@ -3,8 +3,8 @@
 #include "core/command_queue.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
-#include "core/lifecycle.h"
-#include "data/listing_launch.h"
+#include "families/library.h"
+#include "core/dispatch_table.h"
 #include "include/kvs_dlg.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
@@ -76,9 +76,9 @@ std::int32_t HeadlessBackend::startDialog(std::uint32_t id, const std::string& h
 
 std::optional<std::int32_t> HeadlessBackend::launchUnlisted(std::uint32_t id, const std::string& helpFile) {
     const auto commandId = static_cast<std::uint16_t>(id);
-    const DispatchRow* row = data::outputSettingsRow(commandId);
-    Descriptor* descriptor = data::outputSettingsDescriptor(commandId);
-    if (!row || !descriptor) return std::nullopt;
+    const DispatchRow* row = findDialogRow(commandId);
+    Descriptor* descriptor = descriptorFor(commandId);
+    if (!row || row->has(kMenuEntry) || !descriptor) return std::nullopt;
     // What StartDialog does around a case: the help path, the current id, and
     // afterwards the hand-off of the queue and the reset of the slots.
     LibraryState& lib = library();
@@ -265,14 +265,14 @@ void HeadlessRunner::emit(const std::string& line) {
 
 std::string HeadlessRunner::run(std::string_view source) {
     transcript_.clear();
-    onLibraryUnload();
+    unloadLibrary();
     KernelState::instance().reset();
     HostState& host = HostState::instance();
     host.reset();
     host.setSink([this](const std::string& line) { emit(line); });
     ui_.setOwnerTitle(scenario::Engine::kDefaultTitle);
     setUi(&ui_);
-    onLibraryLoad();
+    loadLibrary();
 
     KernelState::instance().setSink([this](const std::string& line) { emit(line); });
 
@@ -282,7 +282,7 @@ std::string HeadlessRunner::run(std::string_view source) {
     // A modeless window outlives the statements that opened it.
     if (ui_.top()) engine_.windowLeftOpen();
     ui_.closeAllModeless();
-    onLibraryUnload();
+    unloadLibrary();
     KernelState::instance().setSink(nullptr);
     host.setSink(nullptr);
     setUi(nullptr);

@@ -126,6 +126,16 @@ std::optional<ControlKind> HeadlessDialog::kindOf(int id) const {
     return c->def.kind;
 }
 
+ControlType HeadlessDialog::controlType(int id) const {
+    switch (kindOf(id).value_or(ControlKind::Other)) {
+    case ControlKind::Button: return ControlType::Button;
+    case ControlKind::Edit: return ControlType::Edit;
+    case ControlKind::ListBox: return ControlType::ListBox;
+    case ControlKind::ComboBox: return ControlType::ComboBox;
+    default: return ControlType::Other;
+    }
+}
+
 // ---------------------------------------------------------------------------
 // Window text, state and focus
 

@@ -51,6 +51,7 @@ public:
     // DialogView
     WindowRef handle() const override { return handle_; }
     bool has(int id) const override { return find(id) != nullptr; }
+    ControlType controlType(int id) const override;
     std::string text(int id) const override;
     void setText(int id, std::string_view text) override;
     bool isEnabled(int id) const override;

@@ -1,7 +1,7 @@
 // Load and unload notifications of kvs_dlg.dll.
 #include <windows.h>
 
-#include "core/lifecycle.h"
+#include "families/library.h"
 #include "core/seam.h"
 #include "win32/colour_grid_window.h"
 #include "win32/graph_resources.h"
@@ -20,7 +20,7 @@ void attach(HINSTANCE instance) {
     kvs::win32::registerMicroscroll(instance);
     kvs::win32::registerColourGrid(instance);
     kvs::setUi(&kvs::win32::win32Ui());
-    kvs::onLibraryLoad();
+    kvs::loadLibrary();
 }
 
 // processEnding: the process exits rather than FreeLibrary unloading us.

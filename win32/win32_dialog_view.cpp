@@ -71,6 +71,17 @@ bool viewIsChangingControls() { return changingDepth > 0; }
 
 bool Win32DialogView::has(int id) const { return GetDlgItem(dialog_, id) != nullptr; }
 
+ControlType Win32DialogView::controlType(int id) const {
+    HWND control = GetDlgItem(dialog_, id);
+    char name[32] = {};
+    if (!control || GetClassNameA(control, name, static_cast<int>(sizeof name)) == 0) return ControlType::Other;
+    if (lstrcmpiA(name, "Button") == 0) return ControlType::Button;
+    if (lstrcmpiA(name, "Edit") == 0) return ControlType::Edit;
+    if (lstrcmpiA(name, "ListBox") == 0) return ControlType::ListBox;
+    if (lstrcmpiA(name, "ComboBox") == 0) return ControlType::ComboBox;
+    return ControlType::Other;
+}
+
 // ---------------------------------------------------------------------------
 // Text, state and focus
 

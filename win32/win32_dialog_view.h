@@ -16,6 +16,7 @@ public:
 
     WindowRef handle() const override { return reinterpret_cast<WindowRef>(dialog_); }
     bool has(int id) const override;
+    ControlType controlType(int id) const override;
 
     std::string text(int id) const override;
     void setText(int id, std::string_view text) override;

@@ -4,7 +4,7 @@
 
 #include "core/command_text.h"
 #include "core/file_filters.h"
-#include "data/join_names.h"
+#include "core/join_names.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
 #include "headless/headless_ui.h"
@@ -31,10 +31,10 @@ protected:
 TEST_F(JoinNamesTest, SeparatesNamesAndDropsTheLastSeparator) {
     kvs::headless::HeadlessDialog dialog(*resources.dialog("Rank"));
     CommandText text("RANK ");
-    EXPECT_EQ(kvs::data::joinNames(dialog, 10, text, ' '), 0);
+    EXPECT_EQ(kvs::joinNames(dialog, 10, text, ' '), 0);
     EXPECT_EQ(text.str(), "RANK ") << "an empty list adds nothing and drops nothing";
     for (const char* name : {"X", "Y", "Z"}) dialog.listAdd(10, name, kvs::ListInsert::Append);
-    EXPECT_EQ(kvs::data::joinNames(dialog, 10, text, ' '), 3);
+    EXPECT_EQ(kvs::joinNames(dialog, 10, text, ' '), 3);
     EXPECT_EQ(text.str(), "RANK X Y Z");
 }
 
@@ -43,7 +43,7 @@ TEST_F(JoinNamesTest, StopsOnceTheTextPassesTheLimitKeepingTheSeparator) {
     const std::string name(11, 'N');  // 12 characters with its separator
     for (int i = 0; i < 1000; ++i) dialog.listAdd(10, name, kvs::ListInsert::Append);
     CommandText text;
-    const int added = kvs::data::joinNames(dialog, 10, text, '+');
+    const int added = kvs::joinNames(dialog, 10, text, '+');
     // 826 names make 9912 characters: the first length past 9900.
     EXPECT_EQ(added, 826);
     EXPECT_EQ(text.size(), 826u * 12u);

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <stdexcept>
 
 #include "core/descriptor.h"
 #include "core/dispatch_table.h"
+#include "families/library.h"
 
 namespace {
 
@@ -11,8 +13,16 @@ using kvs::DispatchRow;
 using kvs::Family;
 using kvs::Launch;
 
+// Every test here sees the rows the library installs at load.
+class RowsInstalled : public ::testing::Environment {
+public:
+    void SetUp() override { kvs::installLibraryFamilies(); }
+};
+const auto* const installed = ::testing::AddGlobalTestEnvironment(new RowsInstalled);
+
 TEST(DispatchTable, EveryRowLiesInTheRangeOfItsFamily) {
-    for (const DispatchRow& row : kvs::dispatchTable()) {
+    ASSERT_FALSE(kvs::dialogRows().empty());
+    for (const DispatchRow& row : kvs::dialogRows()) {
         Family family{};
         ASSERT_TRUE(kvs::familyOf(row.id, family)) << row.id;
         EXPECT_EQ(family, row.family) << row.id;
@@ -71,18 +81,54 @@ TEST(DispatchTable, TelltaleRows) {
     EXPECT_EQ(loglin->firstCapacity, 1);
     EXPECT_EQ(loglin->secondCapacity, 256);
 
-    for (std::uint16_t special : {76, 78, 150, 153, 242, 245, 246}) {
+    for (std::uint16_t special : {76, 150, 153, 242, 245, 246}) {
         const DispatchRow* row = kvs::findDispatchRow(special);
         ASSERT_NE(row, nullptr) << special;
         EXPECT_EQ(row->launch, Launch::Special) << special;
+        EXPECT_NE(row->special, nullptr) << special;
     }
     EXPECT_EQ(kvs::dispatchTable().size(), 123u);
+}
+
+// Dialogs with a row but no menu case: StartDialog does nothing for them,
+// their own launchers find them.
+TEST(DispatchTable, RowsOffTheMenuAreFoundOnlyAsDialogs) {
+    for (std::uint16_t id : {51, 52, 53, 91}) {
+        EXPECT_EQ(kvs::findDispatchRow(id), nullptr) << id;
+        const DispatchRow* row = kvs::findDialogRow(id);
+        ASSERT_NE(row, nullptr) << id;
+        EXPECT_NE(row->behaviour, nullptr) << id;
+    }
+    EXPECT_EQ(kvs::dialogRows().size(), kvs::dispatchTable().size() + 4);
+}
+
+// The facts that used to be lists of ids beside the table.
+TEST(DispatchTable, RowFlagsNameTheDialogsWithQuirks) {
+    std::set<std::uint16_t> keep, oneList, noRestore, numeric;
+    for (const DispatchRow& row : kvs::dialogRows()) {
+        if (row.has(kvs::kKeepsStateThroughReinit)) keep.insert(row.id);
+        if (row.has(kvs::kClearsAsOneList)) oneList.insert(row.id);
+        if (row.has(kvs::kNoFirstListRestore)) noRestore.insert(row.id);
+        if (row.switch1 == 1) numeric.insert(row.id);
+    }
+    EXPECT_EQ(keep, (std::set<std::uint16_t>{218, 219, 221, 232, 260, 261, 262, 289}));
+    EXPECT_EQ(oneList, (std::set<std::uint16_t>{67, 70}));
+    EXPECT_EQ(noRestore, (std::set<std::uint16_t>{289}));
+    EXPECT_EQ(numeric, (std::set<std::uint16_t>{70, 71, 75}));
+}
+
+TEST(DispatchTable, TwoRowsWithOneIdAreRefused) {
+    const DispatchRow rows[] = {kvs::dialogRow(Family::Data, 72, "Sort", "Sort", Launch::Standard, 1, 10, 0),
+                                kvs::dialogRow(Family::Data, 72, "Sort", "Sort", Launch::Standard, 1, 10, 0)};
+    const kvs::FamilyTable family{rows, nullptr, nullptr};
+    EXPECT_THROW(kvs::installFamilies({&family, 1}), std::logic_error);
+    EXPECT_NE(kvs::findDispatchRow(43), nullptr);  // the installed rows stay
 }
 
 TEST(Descriptors, NineDialogsStartWithAnUnsetResetMarker) {
     kvs::resetDescriptorsForLoad();
     std::set<std::uint16_t> unset;
-    for (const DispatchRow& row : kvs::dispatchTable())
+    for (const DispatchRow& row : kvs::dialogRows())
         if (const kvs::Descriptor* d = kvs::descriptorFor(row.id); d && d->resetMarker == -1) unset.insert(row.id);
     EXPECT_EQ(unset, (std::set<std::uint16_t>{87, 88, 252, 269, 271, 272, 281, 290, 298}));
 }

@@ -10,7 +10,7 @@
 #include "core/file_choosers.h"
 #include "core/file_filters.h"
 #include "core/library_state.h"
-#include "core/lifecycle.h"
+#include "families/library.h"
 #include "data/append_merge.h"
 #include "data/text_pieces.h"
 #include "headless/headless_dialog.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "data/listing_compose.h"
+#include "data/composers.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_backend.h"
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/lifecycle.h"
+#include "families/library.h"
 #include "standin/host_state.h"
 #include "standin/kernel_state.h"
 #include "tests/unit/fake_ui.h"
@@ -19,15 +19,15 @@ template <typename Ui = FakeUi>
 class LoadedLibraryTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        onLibraryUnload();
+        unloadLibrary();
         standin::KernelState::instance().reset();
         standin::HostState::instance().reset();
         standin::HostState::instance().setSink([this](const std::string& line) { host.push_back(line); });
         setUi(&ui);
-        onLibraryLoad();
+        loadLibrary();
     }
     void TearDown() override {
-        onLibraryUnload();
+        unloadLibrary();
         setUi(nullptr);
         standin::HostState::instance().setSink(nullptr);
         standin::HostState::instance().reset();

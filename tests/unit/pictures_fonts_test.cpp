@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "core/lifecycle.h"
+#include "families/library.h"
 #include "graph/font_chooser.h"
 #include "graph/picture_sets.h"
 #include "include/kvs_dlg.h"
@@ -22,12 +22,12 @@ class GraphResourcesTest : public ::testing::Test {
 protected:
     void SetUp() override {
         setUi(&ui_);
-        onLibraryLoad();
+        loadLibrary();
         lfKvgFont = {};
         lfDefKvgFont = {};
     }
     void TearDown() override {
-        onLibraryUnload();
+        unloadLibrary();
         setUi(nullptr);
         lfKvgFont = {};
         lfDefKvgFont = {};
@@ -171,8 +171,8 @@ TEST_F(GraphResourcesTest, ALoadForgetsThePicturesAndTheChoice) {
     ui_.fontAnswer = font("Georgia", -16, 700, false);
     graph::chooseGraphFont(0);
     LoadSymbolBitmapsEx(nullptr);
-    onLibraryUnload();
-    onLibraryLoad();
+    unloadLibrary();
+    loadLibrary();
     EXPECT_EQ(graph::symbolPictures()[0], 0u);
     EXPECT_EQ(graph::chosenFont().faceName[0], '\0');
 }

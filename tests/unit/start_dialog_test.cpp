@@ -7,7 +7,7 @@
 #include "core/descriptor.h"
 #include "core/generic_dialog.h"
 #include "core/library_state.h"
-#include "core/lifecycle.h"
+#include "families/library.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
 #include "include/kvs_dlg.h"

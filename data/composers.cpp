@@ -1,4 +1,4 @@
-#include "data/listing_compose.h"
+#include "data/composers.h"
 
 #include "data/data_texts.h"
 

@@ -1,4 +1,4 @@
-#include "core/series_commands.h"
+#include "stats/series_commands.h"
 
 #include "core/command_queue.h"
 #include "core/library_state.h"
@@ -10,10 +10,10 @@ namespace {
 constexpr std::size_t kTitleCapacity = 261;  // 260 characters and the NUL
 }
 
-void runSeriesCommand(std::uint16_t commandId) {
+void runSeriesCommand(std::uint16_t commandId, WindowRef owner) {
     LibraryState& lib = library();
     if (!IsThisModuleNameActive("SERIES")) {
-        const std::string title = ui().windowTitle(lib.hostWindow, kTitleCapacity);
+        const std::string title = ui().windowTitle(owner, kTitleCapacity);
         queue::push("SERIES", title.c_str());
     }
     switch (commandId) {

@@ -4,6 +4,9 @@
 
 #include <cstdint>
 
+#include "core/seam.h"
+
 namespace kvs {
-void runSeriesCommand(std::uint16_t commandId);
+// owner: the host window whose title names the module switch.
+void runSeriesCommand(std::uint16_t commandId, WindowRef owner);
 }

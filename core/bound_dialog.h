@@ -1,0 +1,48 @@
+// A variable dialog whose own controls are a record of remembered settings
+// tied by bindings, and whose OK composes lines from that record and the
+// names of its lists. A subclass gives the record, the bindings and the
+// composer; set-up, clicks, OK, Reset All and ReinitDialogs follow from them.
+#pragma once
+
+#include "core/bindings.h"
+#include "core/composition.h"
+#include "core/dialog_behaviour.h"
+#include "core/dialog_defaults.h"
+
+namespace kvs {
+
+template <typename Record>
+class BoundDialog : public DialogBehaviour {
+public:
+    int init(DialogContext& context) override {
+        bindings_.show(context.view, record_);
+        return 0;
+    }
+
+    void notify(DialogContext& context, const Notification& n) override {
+        if (n.event == Event::Clicked) bindings_.clicked(context.view, n.controlId, record_);
+    }
+
+    // OK keeps what the controls show, even when the composition is refused.
+    bool accept(DialogContext& context, int) override {
+        bindings_.read(context.view, record_);
+        if (!deliver(context.view.handle(), compose(record_, context.view))) return false;
+        accepted();
+        return true;
+    }
+
+    void addDefaults(DefaultsTable& table) override { table.record(record_); }
+
+protected:
+    BoundDialog(Record& record, Bindings<Record> bindings) : record_(record), bindings_(std::move(bindings)) {}
+
+    // The lines of an OK, from the record and the names in the dialog's lists.
+    virtual Composition compose(const Record& record, const DialogView& view) const = 0;
+    // After the lines were pushed.
+    virtual void accepted() {}
+
+    Record& record_;
+    Bindings<Record> bindings_;
+};
+
+}  // namespace kvs

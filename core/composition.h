@@ -1,0 +1,43 @@
+// What a dialog's OK composes: the lines to hand the host, in push order, or
+// a refusal with the message the user sees. A dialog's composer is a pure
+// function of its settings and names that returns one of these, so it can be
+// tested by a table and run on every change without side effects; showing
+// the message or pushing the lines is the separate step deliver().
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/command_text.h"
+#include "core/seam.h"
+
+namespace kvs {
+
+struct Composition {
+    std::vector<std::string> lines;
+    std::string refusal;  // empty when the dialog's choices are accepted
+
+    bool refused() const { return !refusal.empty(); }
+    static Composition refuse(std::string_view message) {
+        Composition c;
+        c.refusal = std::string(message);
+        return c;
+    }
+    Composition& add(const CommandText& line) {
+        lines.push_back(line.str());
+        return *this;
+    }
+    Composition& add(std::string_view line) { return add(CommandText(line)); }
+    // Appends text to the last line, within the composition buffer's bound.
+    Composition& extend(std::string_view text) {
+        if (!lines.empty()) lines.back() = CommandText(lines.back()).append(text).str();
+        return *this;
+    }
+};
+
+// Shows the refusal as a stop message owned by owner, or pushes every line
+// onto the command queue. True when the composition was accepted.
+bool deliver(WindowRef owner, const Composition& composition);
+
+}  // namespace kvs
