@@ -8,7 +8,7 @@
 #include <cstddef>
 #include <initializer_list>
 #include <string>
-#include <variant>
+#include <functional>
 #include <vector>
 
 #include "core/seam.h"
@@ -24,68 +24,65 @@ class Bindings {
 public:
     // A check box and its flag.
     Bindings& check(int id, bool Record::*flag, Commit commit = Commit::OnOk) {
-        bindings_.push_back({Kind::Check, {id}, flag, 0, commit});
-        return *this;
+        Binding b{{id}, commit, false};
+        b.show = [id, flag](DialogView& view, const Record& r) { view.setChecked(id, r.*flag); };
+        b.read = [id, flag](const DialogView& view, Record& r) { r.*flag = view.isChecked(id); };
+        b.click = [flag](DialogView& view, int clicked, Record& r) { r.*flag = view.isChecked(clicked); };
+        return add(std::move(b));
     }
     // A group of radio buttons and the id of the chosen one. When none is
     // checked at OK the record keeps its choice.
     Bindings& radio(std::initializer_list<int> ids, int Record::*chosen, Commit commit = Commit::OnOk) {
-        bindings_.push_back({Kind::Radio, ids, chosen, 0, commit});
-        return *this;
+        Binding b{ids, commit, true};
+        const std::vector<int> group(ids);
+        b.show = [group, chosen](DialogView& view, const Record& r) { showChoice(view, group, r.*chosen); };
+        b.read = [group, chosen](const DialogView& view, Record& r) {
+            for (int id : group)
+                if (view.isChecked(id)) r.*chosen = id;
+        };
+        b.click = [group, chosen](DialogView& view, int clicked, Record& r) {
+            r.*chosen = clicked;
+            showChoice(view, group, clicked);
+        };
+        return add(std::move(b));
     }
     // An edit field and its text, cut at limit, where the user's typing stops too.
     Bindings& text(int id, std::string Record::*value, std::size_t limit) {
-        bindings_.push_back({Kind::Text, {id}, value, limit, Commit::OnOk});
-        return *this;
+        Binding b{{id}, Commit::OnOk, false};
+        b.show = [id, value, limit](DialogView& view, const Record& r) {
+            view.limitText(id, limit);
+            view.setText(id, r.*value);
+        };
+        b.read = [id, value, limit](const DialogView& view, Record& r) {
+            std::string text = view.text(id);
+            if (text.size() > limit) text.resize(limit);
+            r.*value = std::move(text);
+        };
+        return add(std::move(b));
     }
     // A drop-down list and the position chosen in it.
     Bindings& combo(int id, int Record::*position) {
-        bindings_.push_back({Kind::Combo, {id}, position, 0, Commit::OnOk});
-        return *this;
+        Binding b{{id}, Commit::OnOk, false};
+        b.show = [id, position](DialogView& view, const Record& r) { view.comboSelect(id, r.*position); };
+        b.read = [id, position](const DialogView& view, Record& r) { r.*position = view.comboSelection(id); };
+        return add(std::move(b));
     }
     // Field enabled exactly while the radio button choice is checked; a click
     // on choice moves the focus to it.
     Bindings& enableWith(int fieldId, int choiceId) {
-        bindings_.push_back({Kind::Enable, {fieldId, choiceId}, {}, 0, Commit::OnOk});
+        enablings_.push_back({fieldId, choiceId});
         return *this;
     }
 
     // The record's settings into the controls.
     void show(DialogView& view, const Record& record) const {
-        for (const Binding& b : bindings_) {
-            switch (b.kind) {
-            case Kind::Check: view.setChecked(b.ids[0], record.*std::get<bool Record::*>(b.member)); break;
-            case Kind::Radio: showRadio(view, b, record.*std::get<int Record::*>(b.member)); break;
-            case Kind::Text:
-                view.limitText(b.ids[0], b.limit);
-                view.setText(b.ids[0], record.*std::get<std::string Record::*>(b.member));
-                break;
-            case Kind::Combo: view.comboSelect(b.ids[0], record.*std::get<int Record::*>(b.member)); break;
-            case Kind::Enable: break;
-            }
-        }
-        showEnabling(view);
+        for (const Binding& b : bindings_) b.show(view, record);
+        for (const Enabling& e : enablings_) view.enable(e.field, view.isChecked(e.choice));
     }
 
     // The controls' state into the record, as OK takes it.
     void read(const DialogView& view, Record& record) const {
-        for (const Binding& b : bindings_) {
-            switch (b.kind) {
-            case Kind::Check: record.*std::get<bool Record::*>(b.member) = view.isChecked(b.ids[0]); break;
-            case Kind::Radio:
-                for (int id : b.ids)
-                    if (view.isChecked(id)) record.*std::get<int Record::*>(b.member) = id;
-                break;
-            case Kind::Text: {
-                std::string text = view.text(b.ids[0]);
-                if (text.size() > b.limit) text.resize(b.limit);
-                record.*std::get<std::string Record::*>(b.member) = std::move(text);
-                break;
-            }
-            case Kind::Combo: record.*std::get<int Record::*>(b.member) = view.comboSelection(b.ids[0]); break;
-            case Kind::Enable: break;
-            }
-        }
+        for (const Binding& b : bindings_) b.read(view, record);
     }
 
     // A click on control id: bindings that commit on click store it, and the
@@ -95,38 +92,39 @@ public:
         for (const Binding& b : bindings_) {
             if (!holds(b, id)) continue;
             known = true;
-            if (b.commit != Commit::OnClick) continue;
-            if (b.kind == Kind::Check) record.*std::get<bool Record::*>(b.member) = view.isChecked(id);
-            if (b.kind == Kind::Radio) {
-                record.*std::get<int Record::*>(b.member) = id;
-                showRadio(view, b, id);
-            }
+            if (b.commit == Commit::OnClick && b.click) b.click(view, id, record);
         }
-        for (const Binding& b : bindings_) {
-            if (b.kind != Kind::Enable || !inGroupOf(b.ids[1], id)) continue;
+        for (const Enabling& e : enablings_) {
+            if (!inGroupOf(e.choice, id)) continue;
             known = true;
-            view.enable(b.ids[0], view.isChecked(b.ids[1]));
-            if (id == b.ids[1]) view.setFocus(b.ids[0]);
+            view.enable(e.field, view.isChecked(e.choice));
+            if (id == e.choice) view.setFocus(e.field);
         }
         return known;
     }
 
 private:
-    enum class Kind { Check, Radio, Text, Combo, Enable };
-    using Member = std::variant<std::monostate, bool Record::*, int Record::*, std::string Record::*>;
     struct Binding {
-        Kind kind;
         std::vector<int> ids;
-        Member member;
-        std::size_t limit;
-        Commit commit;
+        Commit commit = Commit::OnOk;
+        bool group = false;
+        std::function<void(DialogView&, const Record&)> show = {};
+        std::function<void(const DialogView&, Record&)> read = {};
+        std::function<void(DialogView&, int, Record&)> click = {};
+    };
+    struct Enabling {
+        int field;
+        int choice;
     };
 
-    static void showRadio(DialogView& view, const Binding& b, int chosen) {
-        for (int id : b.ids) view.setChecked(id, id == chosen);
+    Bindings& add(Binding binding) {
+        bindings_.push_back(std::move(binding));
+        return *this;
+    }
+    static void showChoice(DialogView& view, const std::vector<int>& group, int chosen) {
+        for (int id : group) view.setChecked(id, id == chosen);
     }
     static bool holds(const Binding& b, int id) {
-        if (b.kind == Kind::Enable) return false;
         for (int own : b.ids)
             if (own == id) return true;
         return false;
@@ -134,15 +132,12 @@ private:
     // Whether id is choice or another button of choice's radio group.
     bool inGroupOf(int choice, int id) const {
         for (const Binding& b : bindings_)
-            if (b.kind == Kind::Radio && holds(b, choice) && holds(b, id)) return true;
+            if (b.group && holds(b, choice) && holds(b, id)) return true;
         return choice == id;
-    }
-    void showEnabling(DialogView& view) const {
-        for (const Binding& b : bindings_)
-            if (b.kind == Kind::Enable) view.enable(b.ids[0], view.isChecked(b.ids[1]));
     }
 
     std::vector<Binding> bindings_;
+    std::vector<Enabling> enablings_;
 };
 
 }  // namespace kvs

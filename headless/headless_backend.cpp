@@ -61,6 +61,7 @@ const scenario::LibraryExports& HeadlessBackend::exports() {
         e.colorPickerDialogEx = &ColorPickerDialogEx;
         e.loadSymbolBitmapsEx = &LoadSymbolBitmapsEx;
         e.deleteSymbolBitmapsEx = &DeleteSymbolBitmapsEx;
+        e.getDialogList = &GetDialogList;
         e.kvgFont = &lfKvgFont;
         e.defKvgFont = &lfDefKvgFont;
         return e;

@@ -38,6 +38,22 @@ KVS_EXPORT int32_t KVS_CALL StartDialog(uint32_t commandId, KvsWindow owner, con
  * Always returns 1. */
 KVS_EXPORT int32_t KVS_CALL ReinitDialogs(int32_t freeMemory);
 
+/* One menu command the library serves through StartDialog. family: 0 data,
+ * 1 graph, 2 statistics. caption and templateName are the library's own
+ * strings, valid while it is loaded; both are null for a command that runs
+ * without a dialog of its own (a chooser or a command queued at once). */
+typedef struct KvsDialogEntry {
+    uint16_t commandId;
+    uint16_t family;
+    const char* caption;
+    const char* templateName;
+} KvsDialogEntry;
+
+/* Writes the menu commands StartDialog serves, in id order, into entries
+ * (at most capacity of them; entries may be null when capacity is 0) and
+ * returns how many there are, so a host can build or check its menus. */
+KVS_EXPORT int32_t KVS_CALL GetDialogList(KvsDialogEntry* entries, int32_t capacity);
+
 /* Non-zero: variable lists are shown alphabetically; zero: in file order.
  * Returns the flag it was given. */
 KVS_EXPORT int32_t KVS_CALL SetDlgSortList(int32_t sorted);

@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <string>
 
-#include "core/dispatch_table.h"
 #include "standin/host_state.h"
 #include "standin/win/help_catcher.h"
 #include "standin/win/kernel_control.h"
@@ -39,12 +38,12 @@ struct Demo {
 Demo* demo = nullptr;
 
 // The entries without a template of their own are named here.
-std::string entryText(const DispatchRow& row) {
+std::string entryText(const KvsDialogEntry& row) {
     std::string text;
     if (row.caption) {
         text = row.caption;
     } else {
-        switch (row.id) {
+        switch (row.commandId) {
         case 76: text = "Extract"; break;
         case 78: text = "Labels"; break;
         case 150: text = "Graph Font"; break;
@@ -55,7 +54,13 @@ std::string entryText(const DispatchRow& row) {
         default: text = "Command"; break;
         }
     }
-    return text + "\t" + std::to_string(row.id);
+    return text + "\t" + std::to_string(row.commandId);
+}
+
+bool servesCommand(int id) {
+    for (const KvsDialogEntry& row : demo->library.dialogs())
+        if (row.commandId == id) return true;
+    return false;
 }
 
 HMENU buildMenu() {
@@ -68,16 +73,16 @@ HMENU buildMenu() {
     AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(file), "&File");
 
     const struct {
-        Family family;
+        std::uint16_t family;
         const char* title;
-    } families[] = {{Family::Data, "&Data"}, {Family::Graph, "&Graph"}, {Family::Statistics, "&Statistics"}};
+    } families[] = {{0, "&Data"}, {1, "&Graph"}, {2, "&Statistics"}};
     for (const auto& family : families) {
         const HMENU popup = CreatePopupMenu();
         UINT count = 0;
-        for (const DispatchRow& row : dispatchTable()) {
+        for (const KvsDialogEntry& row : demo->library.dialogs()) {
             if (row.family != family.family) continue;
             const UINT column = count > 0 && count % kEntriesPerColumn == 0 ? MF_MENUBARBREAK : 0;
-            AppendMenuA(popup, MF_STRING | column, row.id, entryText(row).c_str());
+            AppendMenuA(popup, MF_STRING | column, row.commandId, entryText(row).c_str());
             ++count;
         }
         AppendMenuA(bar, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), family.title);
@@ -184,7 +189,7 @@ void onCommand(HWND window, UINT id) {
     case kColourPicker:
     case kSamplingJob: onHostCommand(window, id); return;
     default:
-        if (findDispatchRow(static_cast<std::uint16_t>(id))) {
+        if (servesCommand(id)) {
             const auto result = demo->library.startDialog(id, window, kSampleHelpFile);
             appendLog("StartDialog " + std::to_string(id) + " = " + std::to_string(result));
         }

@@ -30,6 +30,7 @@ void findOthers(HMODULE module, scenario::LibraryExports& e) {
     find(module, "ColorPickerDialogEx", e.colorPickerDialogEx);
     find(module, "LoadSymbolBitmapsEx", e.loadSymbolBitmapsEx);
     find(module, "DeleteSymbolBitmapsEx", e.deleteSymbolBitmapsEx);
+    find(module, "GetDialogList", e.getDialogList);
     find(module, "lfKvgFont", e.kvgFont);
     find(module, "lfDefKvgFont", e.defKvgFont);
 }
@@ -42,6 +43,16 @@ std::string Library::exeFolder() {
     std::string folder(path.data(), length < path.size() ? length : 0);
     const std::size_t slash = folder.find_last_of("\\/");
     return slash == std::string::npos ? std::string() : folder.substr(0, slash + 1);
+}
+
+std::vector<KvsDialogEntry> Library::dialogs() const {
+    std::vector<KvsDialogEntry> entries;
+    if (!exports_.getDialogList) return entries;
+    const std::int32_t count = exports_.getDialogList(nullptr, 0);
+    if (count <= 0) return entries;
+    entries.resize(static_cast<std::size_t>(count));
+    entries.resize(static_cast<std::size_t>(exports_.getDialogList(entries.data(), count)));
+    return entries;
 }
 
 bool Library::load(std::string& error) {

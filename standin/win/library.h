@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "tools/scenario/library_exports.h"
 
@@ -30,6 +31,8 @@ public:
     std::int32_t startDialog(std::uint32_t id, HWND owner, const char* helpFile) const;
     std::int32_t reinitDialogs(std::int32_t value) const;
     std::int32_t setDlgSortList(std::int32_t value) const;
+    // The menu commands the library serves, as GetDialogList gives them.
+    std::vector<KvsDialogEntry> dialogs() const;
     // Every export; those the DLL lacks are null.
     const scenario::LibraryExports& exports() const { return exports_; }
 

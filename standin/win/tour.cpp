@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <functional>
 
-#include "core/dispatch_table.h"
 #include "standin/host_state.h"
 #include "standin/win/bitmap_file.h"
 #include "standin/win/help_catcher.h"
@@ -57,8 +56,8 @@ private:
 };
 
 // A dialog's picture is named by its command id and template.
-std::string shotNameOf(const DispatchRow& row) {
-    std::string id = std::to_string(row.id);
+std::string shotNameOf(const KvsDialogEntry& row) {
+    std::string id = std::to_string(row.commandId);
     while (id.size() < 4) id.insert(id.begin(), '0');
     return id + "-" + row.templateName;
 }
@@ -158,12 +157,12 @@ int Tour::run() {
     help_.open([this](const std::string& line) { emit(line); });
     watch_.start(library_.module(), [this](const std::string& line) { emit(line); },
                  [this](HWND top) { onTick(top); });
-    for (const DispatchRow& row : dispatchTable()) {
+    for (const KvsDialogEntry& row : library_.dialogs()) {
         // Only the dialogs the library has a template for are shown.
         if (!row.templateName || !FindResourceA(library_.module(), row.templateName, RT_DIALOG)) continue;
         visit(shotNameOf(row), [&] {
-            return "StartDialog " + std::to_string(row.id) + " = " +
-                   std::to_string(library_.startDialog(row.id, owner_, kSampleHelpFile));
+            return "StartDialog " + std::to_string(row.commandId) + " = " +
+                   std::to_string(library_.startDialog(row.commandId, owner_, kSampleHelpFile));
         });
     }
     // The dialogs the host opens through exports of their own.

@@ -21,6 +21,7 @@ struct LibraryExports {
     decltype(&ColorPickerDialogEx) colorPickerDialogEx = nullptr;
     decltype(&LoadSymbolBitmapsEx) loadSymbolBitmapsEx = nullptr;
     decltype(&DeleteSymbolBitmapsEx) deleteSymbolBitmapsEx = nullptr;
+    decltype(&GetDialogList) getDialogList = nullptr;
     KvsLogFont* kvgFont = nullptr;     // lfKvgFont
     KvsLogFont* defKvgFont = nullptr;  // lfDefKvgFont
 };
