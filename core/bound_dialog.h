@@ -26,6 +26,7 @@ public:
     // OK keeps what the controls show, even when the composition is refused.
     bool accept(DialogContext& context, int) override {
         bindings_.read(context.view, record_);
+        if (!prepare(context.view, record_)) return false;
         if (!deliver(context.view.handle(), compose(record_, context.view))) return false;
         accepted();
         return true;
@@ -38,6 +39,9 @@ protected:
 
     // The lines of an OK, from the record and the names in the dialog's lists.
     virtual Composition compose(const Record& record, const DialogView& view) const = 0;
+    // Between reading the controls and composing: settings derived from the
+    // record, or a step of its own (a file chooser); false refuses the OK.
+    virtual bool prepare(DialogView&, Record&) { return true; }
     // After the lines were pushed.
     virtual void accepted() {}
 

@@ -2,7 +2,7 @@
 // data, so they leave the data-command flag alone.
 #include <charconv>
 
-#include "core/bindings.h"
+#include "core/bound_dialog.h"
 #include "core/dialog_behaviour.h"
 #include "core/dialog_defaults.h"
 #include "data/composers.h"
@@ -78,35 +78,24 @@ public:
     void addDefaults(DefaultsTable& table) override { table.record(pageTitle); }
 };
 
-const Bindings<PrintSettings>& printBindings() {
-    static const Bindings<PrintSettings> bindings =
-        Bindings<PrintSettings>()
-            .radio({IDC_PRINT_PORTRAIT, IDC_PRINT_LANDSCAPE}, &PrintSettings::pages, Commit::OnClick)
-            .radio({IDC_PRINT_SHORT, IDC_PRINT_LONG}, &PrintSettings::length, Commit::OnClick)
-            .text(IDC_PRINT_DECIMALS, &PrintSettings::decimals, kDecimalsFieldLimit)
-            .check(IDC_PRINT_UNDERFLOW, &PrintSettings::underflow)
-            .check(IDC_PRINT_PAGE_NUMBERS, &PrintSettings::pageNumbers);
-    return bindings;
-}
-
-class PrintFormatDialog : public DialogBehaviour {
+class PrintFormatDialog : public BoundDialog<PrintSettings> {
 public:
-    int init(DialogContext& context) override {
-        printBindings().show(context.view, print);
-        return 0;
-    }
+    PrintFormatDialog()
+        : BoundDialog(print, Bindings<PrintSettings>()
+                                 .radio({IDC_PRINT_PORTRAIT, IDC_PRINT_LANDSCAPE}, &PrintSettings::pages, Commit::OnClick)
+                                 .radio({IDC_PRINT_SHORT, IDC_PRINT_LONG}, &PrintSettings::length, Commit::OnClick)
+                                 .text(IDC_PRINT_DECIMALS, &PrintSettings::decimals, kDecimalsFieldLimit)
+                                 .check(IDC_PRINT_UNDERFLOW, &PrintSettings::underflow)
+                                 .check(IDC_PRINT_PAGE_NUMBERS, &PrintSettings::pageNumbers)) {}
 
-    void notify(DialogContext& context, const Notification& n) override {
-        if (n.event == Event::Clicked) printBindings().clicked(context.view, n.controlId, print);
+private:
+    bool prepare(DialogView&, PrintSettings& settings) override {
+        settings.decimalsNumber = leadingNumber(settings.decimals);
+        return true;
     }
-
-    bool accept(DialogContext& context, int) override {
-        printBindings().read(context.view, print);
-        print.decimalsNumber = leadingNumber(print.decimals);
-        return deliver(context.view.handle(), composePrintFormat(print));
+    Composition compose(const PrintSettings& settings, const DialogView&) const override {
+        return composePrintFormat(settings);
     }
-
-    void addDefaults(DefaultsTable& table) override { table.record(print); }
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 // Sort, Rank and Transpose: one line each from the names of target list 10,
 // after the "Save file" step.
-#include "core/bindings.h"
+#include "core/bound_dialog.h"
 #include "core/dialog_behaviour.h"
 #include "core/dialog_defaults.h"
 #include "core/messages.h"
@@ -19,50 +19,35 @@ struct SortSettings {
 
 SortSettings sortSettings;
 
-const Bindings<SortSettings>& sortBindings() {
-    static const Bindings<SortSettings> bindings = Bindings<SortSettings>().radio(
-        {IDC_SORT_ASCENDING, IDC_SORT_DESCENDING}, &SortSettings::liveOrder, Commit::OnClick);
-    return bindings;
-}
-
-// The save step runs before the composition, so a refused list keeps the
-// SAVE line the step queued.
-bool saveThenDeliver(DialogView& view, const Composition& composition) {
-    return runSaveFileStep(view, "") && deliver(view.handle(), composition);
-}
-
-class SortDialog : public DialogBehaviour {
+class SortDialog : public BoundDialog<SortSettings> {
 public:
-    int init(DialogContext& context) override {
-        sortBindings().show(context.view, sortSettings);
-        return 0;
-    }
-
-    void notify(DialogContext& context, const Notification& n) override {
-        if (n.event == Event::Clicked) sortBindings().clicked(context.view, n.controlId, sortSettings);
-    }
-
-    bool accept(DialogContext& context, int) override {
-        sortSettings.confirmedOrder = sortSettings.liveOrder;
-        if (!runSaveFileStep(context.view, "")) return false;
-        const Names keys = listNames(context.view, IDC_TARGET1);
-        return deliver(context.view.handle(), composeSort(keys, sortSettings.confirmedOrder));
-    }
+    SortDialog()
+        : BoundDialog(sortSettings, Bindings<SortSettings>().radio({IDC_SORT_ASCENDING, IDC_SORT_DESCENDING},
+                                                                   &SortSettings::liveOrder, Commit::OnClick)) {}
 
     void reset(DialogContext& context) override {
         sortSettings.liveOrder = IDC_SORT_ASCENDING;
-        sortBindings().show(context.view, sortSettings);
+        bindings_.show(context.view, sortSettings);
         context.view.setChecked(IDC_SAVEFILE, false);
     }
 
-    void addDefaults(DefaultsTable& table) override { table.record(sortSettings); }
+private:
+    // The save step runs before the composition, so a refused list keeps the
+    // SAVE line the step queued.
+    bool prepare(DialogView& view, SortSettings& settings) override {
+        settings.confirmedOrder = settings.liveOrder;
+        return runSaveFileStep(view, "");
+    }
+    Composition compose(const SortSettings& settings, const DialogView& view) const override {
+        return composeSort(listNames(view, IDC_TARGET1), settings.confirmedOrder);
+    }
 };
 
 class RankDialog : public DialogBehaviour {
 public:
     bool accept(DialogContext& context, int) override {
-        if (!runSaveFileStep(context.view, "")) return false;
-        return deliver(context.view.handle(), composeRank(listNames(context.view, IDC_TARGET1)));
+        return runSaveFileStep(context.view, "") &&
+               deliver(context.view.handle(), composeRank(listNames(context.view, IDC_TARGET1)));
     }
 
     void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }
@@ -71,7 +56,8 @@ public:
 class TransposeDialog : public DialogBehaviour {
 public:
     bool accept(DialogContext& context, int) override {
-        return saveThenDeliver(context.view, composeTranspose(listNames(context.view, IDC_TARGET1)));
+        return runSaveFileStep(context.view, "") &&
+               deliver(context.view.handle(), composeTranspose(listNames(context.view, IDC_TARGET1)));
     }
 
     void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }
