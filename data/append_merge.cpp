@@ -1,4 +1,4 @@
-#include "data/append_merge.h"
+#include "data/composers.h"
 
 #include "core/command_queue.h"
 #include "core/dialog_behaviour.h"

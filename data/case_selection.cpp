@@ -1,4 +1,4 @@
-#include "data/case_selection.h"
+#include "data/condition_rows.h"
 
 #include "core/command_queue.h"
 #include "core/messages.h"

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/command_text.h"
@@ -28,6 +29,66 @@ inline constexpr std::size_t kDecimalsFieldLimit = 3;
 inline constexpr std::size_t kProgramTextLimit = 32767;
 
 using TextLines = std::array<std::string, 5>;
+
+// Condition rows: Select (46), Let (67) and If...Then...Let (69).
+inline constexpr int kConditionRows = 4;
+inline constexpr std::size_t kVariableTextBound = 32;
+inline constexpr std::size_t kValueTextBound = 128;
+inline constexpr std::size_t kConnectorTextBound = 15;
+inline constexpr std::size_t kOperatorTextBound = 2;
+
+struct ConditionRow {
+    int connector = 0;  // Select's AND / OR position (rows 2 to 4)
+    std::string variable;
+    int op = 0;         // position in the operator drop-down
+    std::string value;
+};
+
+// Kept between openings, refreshed at each OK.
+struct ConditionState {
+    std::array<ConditionRow, kConditionRows> rows;
+    std::array<int, 2> thenConnectors{1, 1};  // If...Then...Let rows 2 and 3: "AND"
+    bool ifNot = false;
+    bool selectOff = false;
+    bool complete = false;
+    int functionType = 0;
+};
+
+// A value that already is a character expression: it holds a quote, an
+// apostrophe, a "$" or the name of a character function.
+bool isCharacterExpression(std::string_view value);
+// An entry of a fixed table of drop-down texts; empty when out of range.
+template <std::size_t N>
+std::string_view entryAt(const std::array<std::string_view, N>& entries, int position) {
+    return position >= 0 && static_cast<std::size_t>(position) < N ? entries[static_cast<std::size_t>(position)]
+                                                                     : std::string_view();
+}
+
+// Select: appends the conditions of the rows to line, which starts with
+// "SELECT " unless continueLine; false when the first row is incomplete.
+bool composeSelect(const ConditionState& state, CommandText& line, bool continueLine);
+// Let: "LET variable = value" from row 1; false when either is missing.
+bool composeLet(const ConditionState& state, CommandText& line);
+// If...Then...Let: "IF (...) ... THEN LET ..."; false when fewer than two
+// pieces are complete or an assignment is half filled.
+bool composeIfThenLet(const ConditionState& state, CommandText& line);
+
+// Append (73): "APPEND file1 file2 / OPTION" (option 31, 32 or 33; anything
+// else leaves the line ending in " / "). Returns how many of the two names
+// were blank.
+inline constexpr std::size_t kFileNameLength = 255;  // longest file name a name block keeps
+int composeAppendLine(std::string_view file1, std::string_view file2, int option, CommandText& line);
+// Merge (74): "MERGE file1(names1) file2(names2) / keys". False, with the
+// line incomplete, when file 1 is blank. An empty file 2 and its names are
+// left out; the keys are added only when the key flag is set and they are
+// not empty.
+bool composeMergeLine(std::string_view file1, std::string_view names1, std::string_view file2,
+                      std::string_view names2, int keyFlag, std::string_view keys, CommandText& line);
+
+// Labels (78): "LABEL NAME", then " / " and value=label pairs joined by
+// ", "; a string variable's values are quoted like the labels.
+using ValueLabel = std::pair<std::string, std::string>;  // value, label
+std::string composeLabelLine(const std::string& variable, const std::vector<ValueLabel>& labels);
 
 // List Cases (43).
 struct ListCasesSettings {

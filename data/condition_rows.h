@@ -1,5 +1,5 @@
-// What Select, Let and If...Then...Let share: the remembered condition rows,
-// the character-expression test and quoting, and a base behaviour for the
+// What Select, Let and If...Then...Let share: the remembered condition rows
+// and a base behaviour for the
 // variable lists, the function catalogue and the field that takes what they
 // insert.
 #pragma once
@@ -12,46 +12,13 @@
 
 #include "core/dialog_behaviour.h"
 #include "core/dialog_defaults.h"
-#include "data/text_pieces.h"
+#include "data/composers.h"
 
 namespace kvs::data {
-
-inline constexpr int kConditionRows = 4;
-inline constexpr std::size_t kVariableTextBound = 32;
-inline constexpr std::size_t kValueTextBound = 128;
-inline constexpr std::size_t kConnectorTextBound = 15;
-inline constexpr std::size_t kOperatorTextBound = 2;
-
-struct ConditionRow {
-    int connector = 0;  // Select's AND / OR position (rows 2 to 4)
-    std::string variable;
-    int op = 0;         // position in the operator drop-down
-    std::string value;
-};
-
-// Kept between openings, refreshed at each OK.
-struct ConditionState {
-    std::array<ConditionRow, kConditionRows> rows;
-    std::array<int, 2> thenConnectors{1, 1};  // If...Then...Let rows 2 and 3: "AND"
-    bool ifNot = false;
-    bool selectOff = false;
-    bool complete = false;
-    int functionType = 0;
-};
 
 ConditionState& conditionState();
 // The rows the three dialogs share, for ReinitDialogs.
 void addConditionDefaults(DefaultsTable& table);
-
-// A value that already is a character expression: it holds a quote, an
-// apostrophe, a "$" or the name of a character function.
-bool isCharacterExpression(std::string_view value);
-// An entry of a fixed table of drop-down texts; empty when out of range.
-template <std::size_t N>
-std::string_view entryAt(const std::array<std::string_view, N>& entries, int position) {
-    return position >= 0 && static_cast<std::size_t>(position) < N ? entries[static_cast<std::size_t>(position)]
-                                                                     : std::string_view();
-}
 
 int variableField(int row);   // 154..157
 int valueField(int row);      // 158..161

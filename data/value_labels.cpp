@@ -1,4 +1,4 @@
-#include "data/value_labels.h"
+#include "data/composers.h"
 
 #include <algorithm>
 

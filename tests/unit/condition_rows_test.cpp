@@ -6,10 +6,9 @@
 #include <set>
 #include <string>
 
-#include "data/case_selection.h"
+#include "data/composers.h"
 #include "data/condition_rows.h"
 #include "data/data_texts.h"
-#include "data/conditional_assignment.h"
 #include "data/function_catalogue.h"
 
 namespace kvs::data {

@@ -11,7 +11,7 @@
 #include "core/file_filters.h"
 #include "core/library_state.h"
 #include "families/library.h"
-#include "data/append_merge.h"
+#include "data/composers.h"
 #include "data/text_pieces.h"
 #include "headless/headless_dialog.h"
 #include "standin/host_state.h"
