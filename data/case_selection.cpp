@@ -52,9 +52,8 @@ protected:
         for (int row = 0; row < kConditionRows; ++row) {
             ConditionRow& r = s.rows[static_cast<std::size_t>(row)];
             if (row > 0) r.connector = view.comboSelection(connectorBox(row));
-            r.variable = bounded(view.text(variableField(row)), kVariableTextBound);
+            readFields(view, row, r);
             r.op = view.comboSelection(operatorBox(row));
-            r.value = bounded(view.text(valueField(row)), kValueTextBound);
         }
         s.complete = view.isChecked(IDC_SELECT_COMPLETE);
         if (s.selectOff) {

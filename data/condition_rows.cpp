@@ -131,6 +131,11 @@ void ConditionDialog::insertAtCaret(DialogView& view, std::string_view insert, s
 
 bool ConditionDialog::accept(DialogContext& context, int) { return acceptRows(context.view); }
 
+void ConditionDialog::readFields(const DialogView& view, int row, ConditionRow& r) {
+    r.variable = bounded(view.text(variableField(row)), kVariableTextBound);
+    r.value = bounded(view.text(valueField(row)), kValueTextBound);
+}
+
 void ConditionDialog::notify(DialogContext& context, const Notification& n) {
     DialogView& view = context.view;
     const int id = n.controlId;

@@ -45,6 +45,8 @@ protected:
     virtual void connectorChosen(DialogView&, int) {}
     virtual bool isField(int id) const;
 
+    // A row's variable and value fields, cut at their bounds.
+    static void readFields(const DialogView& view, int row, ConditionRow& r);
     // Sets up the lists' Add buttons and the catalogue; focuses row 1's variable.
     int initShared(DialogView& view);
     void resetShared(DialogView& view);

@@ -14,12 +14,6 @@ std::size_t thenSlot(int row) { return static_cast<std::size_t>(row - 1); }
 
 void refuse() { showStop(ui().focusWindow(), text::kIncomplete); }
 
-ConditionRow readRow(const DialogView& view, int row, ConditionRow r) {
-    r.variable = bounded(view.text(variableField(row)), kVariableTextBound);
-    r.value = bounded(view.text(valueField(row)), kValueTextBound);
-    return r;
-}
-
 class LetDialog : public ConditionDialog {
 public:
     LetDialog() : ConditionDialog(0) {}
@@ -43,7 +37,7 @@ protected:
     bool acceptRows(DialogView& view) override {
         ConditionState& s = conditionState();
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
-        s.rows[0] = readRow(view, 0, s.rows[0]);
+        readFields(view, 0, s.rows[0]);
         CommandText line;
         if (!composeLet(s, line)) {
             refuse();
@@ -99,7 +93,7 @@ protected:
         s.ifNot = view.comboSelection(IDC_IF_CHOICE) == 1;
         for (int row = 0; row < kConditionRows; ++row) {
             ConditionRow& r = s.rows[static_cast<std::size_t>(row)];
-            r = readRow(view, row, r);
+            readFields(view, row, r);
             if (row < 3) r.op = view.comboSelection(operatorBox(row));
             if (row == 1 || row == 2) s.thenConnectors[thenSlot(row)] = view.comboSelection(connectorBox(row));
         }

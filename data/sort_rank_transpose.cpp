@@ -43,24 +43,20 @@ private:
     }
 };
 
-class RankDialog : public DialogBehaviour {
+// Rank and Transpose: the "Save file" step, then one line from list 10.
+class SavedNamesDialog : public DialogBehaviour {
 public:
+    explicit SavedNamesDialog(Composition (*composer)(const Names&)) : composer_(composer) {}
+
     bool accept(DialogContext& context, int) override {
         return runSaveFileStep(context.view, "") &&
-               deliver(context.view.handle(), composeRank(listNames(context.view, IDC_TARGET1)));
+               deliver(context.view.handle(), composer_(listNames(context.view, IDC_TARGET1)));
     }
 
     void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }
-};
 
-class TransposeDialog : public DialogBehaviour {
-public:
-    bool accept(DialogContext& context, int) override {
-        return runSaveFileStep(context.view, "") &&
-               deliver(context.view.handle(), composeTranspose(listNames(context.view, IDC_TARGET1)));
-    }
-
-    void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }
+private:
+    Composition (*composer_)(const Names&);
 };
 
 }  // namespace
@@ -86,7 +82,14 @@ Composition composeTranspose(const Names& names) {
 }
 
 DialogBehaviour& sortBehaviour() { return soleInstance<SortDialog>(); }
-DialogBehaviour& rankBehaviour() { return soleInstance<RankDialog>(); }
-DialogBehaviour& transposeBehaviour() { return soleInstance<TransposeDialog>(); }
+DialogBehaviour& rankBehaviour() {
+    static SavedNamesDialog dialog(composeRank);
+    return dialog;
+}
+
+DialogBehaviour& transposeBehaviour() {
+    static SavedNamesDialog dialog(composeTranspose);
+    return dialog;
+}
 
 }  // namespace kvs::data
