@@ -34,9 +34,7 @@ public:
         DialogView& view = context.view;
         for (int row = 0; row < kConditionRows; ++row) {
             if (row > 0) view.comboSelect(connectorBox(row), 0);
-            view.setText(variableField(row), "");
-            view.comboSelect(operatorBox(row), 0);
-            view.setText(valueField(row), "");
+            clearFields(view, row);
         }
         view.setChecked(IDC_SELECT_COMPLETE, false);
         view.setChecked(IDC_SELECT_OFF, false);
@@ -61,12 +59,7 @@ protected:
             return true;
         }
         CommandText line;
-        if (!composeSelect(s, line, false)) {
-            showStop(ui().focusWindow(), text::kIncomplete);
-            return false;
-        }
-        queue::push(line.c_str(), nullptr);
-        return true;
+        return deliverLine(composeSelect(s, line, false), line);
     }
 
     // A row is open only while every row above it is complete. The

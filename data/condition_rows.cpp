@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/command_queue.h"
+#include "core/messages.h"
 #include "data/data_texts.h"
 #include "data/function_catalogue.h"
 #include "resources/data_ids.h"
@@ -130,6 +132,21 @@ void ConditionDialog::insertAtCaret(DialogView& view, std::string_view insert, s
 }
 
 bool ConditionDialog::accept(DialogContext& context, int) { return acceptRows(context.view); }
+
+void ConditionDialog::clearFields(DialogView& view, int row) const {
+    view.setText(variableField(row), "");
+    if (row < operatorRows_) view.comboSelect(operatorBox(row), 0);
+    view.setText(valueField(row), "");
+}
+
+bool ConditionDialog::deliverLine(bool composed, const CommandText& line) {
+    if (!composed) {
+        showStop(ui().focusWindow(), text::kIncomplete);
+        return false;
+    }
+    queue::push(line.c_str(), nullptr);
+    return true;
+}
 
 void ConditionDialog::readFields(const DialogView& view, int row, ConditionRow& r) {
     r.variable = bounded(view.text(variableField(row)), kVariableTextBound);

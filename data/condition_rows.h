@@ -47,6 +47,11 @@ protected:
 
     // A row's variable and value fields, cut at their bounds.
     static void readFields(const DialogView& view, int row, ConditionRow& r);
+    // Empties a row's fields and puts its operator back to the first entry
+    // when the row has one.
+    void clearFields(DialogView& view, int row) const;
+    // Pushes a composed line, or shows "incomplete" when composing failed.
+    static bool deliverLine(bool composed, const CommandText& line);
     // Sets up the lists' Add buttons and the catalogue; focuses row 1's variable.
     int initShared(DialogView& view);
     void resetShared(DialogView& view);

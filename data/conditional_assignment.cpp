@@ -12,8 +12,6 @@ namespace {
 // Rows 2 and 3 keep their connector in thenConnectors.
 std::size_t thenSlot(int row) { return static_cast<std::size_t>(row - 1); }
 
-void refuse() { showStop(ui().focusWindow(), text::kIncomplete); }
-
 class LetDialog : public ConditionDialog {
 public:
     LetDialog() : ConditionDialog(0) {}
@@ -26,8 +24,7 @@ public:
     }
 
     void reset(DialogContext& context) override {
-        context.view.setText(IDC_ROW_VARIABLE1, "");
-        context.view.setText(IDC_ROW_VALUE1, "");
+        clearFields(context.view, 0);
         resetShared(context.view);
     }
 
@@ -39,12 +36,7 @@ protected:
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
         readFields(view, 0, s.rows[0]);
         CommandText line;
-        if (!composeLet(s, line)) {
-            refuse();
-            return false;
-        }
-        queue::push(line.c_str(), nullptr);
-        return true;
+        return deliverLine(composeLet(s, line), line);
     }
 };
 
@@ -78,9 +70,7 @@ public:
         for (int row = 0; row < kConditionRows; ++row) {
             if (row == 1 || row == 2)
                 view.comboSelect(connectorBox(row), defaults.thenConnectors[thenSlot(row)]);
-            view.setText(variableField(row), "");
-            if (row < 3) view.comboSelect(operatorBox(row), 0);
-            view.setText(valueField(row), "");
+            clearFields(view, row);
         }
         applyThenRule(view);
         resetShared(view);
@@ -98,12 +88,7 @@ protected:
             if (row == 1 || row == 2) s.thenConnectors[thenSlot(row)] = view.comboSelection(connectorBox(row));
         }
         CommandText line;
-        if (!composeIfThenLet(s, line)) {
-            refuse();
-            return false;
-        }
-        queue::push(line.c_str(), nullptr);
-        return true;
+        return deliverLine(composeIfThenLet(s, line), line);
     }
 
     void connectorChosen(DialogView& view, int row) override {
