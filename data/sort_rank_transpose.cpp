@@ -77,7 +77,10 @@ Composition composeRank(const Names& names) {
 
 Composition composeTranspose(const Names& names) {
     CommandText line(text::kTranspose);
-    for (const std::string& name : names) line.append(name).append(' ');
+    for (const std::string& name : names) {
+        if (line.size() > kJoinLimit) break;  // after a whole name, as every joined list stops
+        line.append(name).append(' ');
+    }
     return Composition().add(line);
 }
 

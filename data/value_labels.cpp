@@ -121,8 +121,13 @@ std::string composeLabelLine(const std::string& variable, const std::vector<Valu
     CommandText line(text::kLabel);
     line.append(variable);
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        line.append(i == 0 ? text::kOptionSeparator : text::kLabelSeparator);
-        line.append(shownEntry(variable, labels[i]));
+        const std::string_view separator = i == 0 ? text::kOptionSeparator : text::kLabelSeparator;
+        const std::string entry = shownEntry(variable, labels[i]);
+        // A pair that does not fit whole is left out with the rest, so the
+        // line never ends inside a quote.
+        if (line.size() + separator.size() + entry.size() > CommandText::kCapacity - 1) break;
+        line.append(separator);
+        line.append(entry);
     }
     return line.str();
 }

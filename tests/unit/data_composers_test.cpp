@@ -119,5 +119,29 @@ TEST(DataComposers, LongLinesStayInTheCompositionBuffer) {
     EXPECT_EQ(order.lines[0].substr(0, 19), "ORDER ABCDEFGHIJKL ");
 }
 
+// Long lists stop after the whole name that passed 9,900 characters, never
+// inside one.
+TEST(DataComposers, TransposeStopsAfterAWholeName) {
+    Names names;
+    for (int i = 0; i < 769; ++i) {
+        std::string number = std::to_string(i);
+        names.push_back("ABCD" + std::string(8 - number.size(), '0') + number);
+    }
+    const std::string line = composeTranspose(names).lines.at(0);
+    EXPECT_GT(line.size(), kJoinLimit);
+    EXPECT_LE(line.size(), kJoinLimit + 13);
+    EXPECT_EQ(line.substr(line.size() - 13), "ABCD00000760 ");
+}
+
+TEST(DataComposers, LabelLineLeavesOutAPairThatDoesNotFitWhole) {
+    std::vector<ValueLabel> labels;
+    for (int i = 0; i < 400; ++i) labels.emplace_back(std::to_string(i), std::string(30, 'x'));
+    const std::string line = composeLabelLine("SEX", labels);
+    EXPECT_LE(line.size(), CommandText::kCapacity - 1);
+    EXPECT_EQ(line.back(), '"');
+    EXPECT_EQ(line.substr(0, 12), "LABEL SEX / ");
+    EXPECT_EQ(composeLabelLine("SEX$", {{"1", "Male"}, {"2", "Female"}}), "LABEL SEX$ / \"1\"=\"Male\", \"2\"=\"Female\"");
+}
+
 }  // namespace
 }  // namespace kvs::data
