@@ -163,6 +163,21 @@ struct FontRequest {
     std::string okText;  // new text of the OK button; empty leaves it
 };
 
+// A popup menu of the library's menu resources, shown at a control of a
+// dialog: the first popup of the named menu, with the items' states set.
+struct PopupItemState {
+    int commandId = 0;
+    bool greyed = false;
+    bool checked = false;
+};
+
+struct PopupRequest {
+    WindowRef owner = 0;       // the dialog
+    std::string menuName;
+    int anchorControl = 0;     // the menu opens below this control
+    std::vector<PopupItemState> states;
+};
+
 // Services outside one dialog's controls.
 class UiServices {
 public:
@@ -191,6 +206,12 @@ public:
     virtual int screenPixelsPerInchY() = 0;
     // The chosen font, or nothing when the user cancelled.
     virtual std::optional<KvsLogFont> chooseFont(const FontRequest& request) = 0;
+    // Shows a popup menu and waits for the user; returns the command id of
+    // the item picked, 0 when the menu was dismissed or does not exist.
+    virtual int popupMenu(const PopupRequest& request) {
+        (void)request;
+        return 0;
+    }
     // MessageBeep with a sound type.
     virtual void messageBeep(unsigned type) {
         (void)type;

@@ -206,4 +206,27 @@ std::intptr_t Win32Ui::userRequest(DialogView& view, int code, std::intptr_t val
     return SendMessageA(windowOf(view.handle()), WM_USER, static_cast<WPARAM>(code), value);
 }
 
+int Win32Ui::popupMenu(const PopupRequest& request) {
+    const std::string name(request.menuName);
+    HMENU menu = LoadMenuA(moduleInstance(), name.c_str());
+    if (!menu) return 0;
+    HMENU popup = GetSubMenu(menu, 0);
+    int chosen = 0;
+    if (popup) {
+        for (const PopupItemState& item : request.states) {
+            const auto id = static_cast<UINT>(item.commandId);
+            EnableMenuItem(popup, id, MF_BYCOMMAND | (item.greyed ? MF_GRAYED : MF_ENABLED));
+            CheckMenuItem(popup, id, MF_BYCOMMAND | (item.checked ? MF_CHECKED : MF_UNCHECKED));
+        }
+        const HWND owner = reinterpret_cast<HWND>(request.owner);
+        RECT at{};
+        const HWND anchor = GetDlgItem(owner, request.anchorControl);
+        if (!anchor || !GetWindowRect(anchor, &at)) GetWindowRect(owner, &at);
+        chosen = static_cast<int>(TrackPopupMenu(popup, TPM_LEFTALIGN | TPM_TOPALIGN | TPM_RETURNCMD | TPM_NONOTIFY,
+                                                 at.left, at.bottom, 0, owner, nullptr));
+    }
+    DestroyMenu(menu);
+    return chosen;
+}
+
 }  // namespace kvs::win32

@@ -21,6 +21,7 @@ public:
     std::uint32_t systemColour(SystemColour which) override;
     int screenPixelsPerInchY() override;
     std::optional<KvsLogFont> chooseFont(const FontRequest& request) override;
+    int popupMenu(const PopupRequest& request) override;
     void messageBeep(unsigned type) override;
     DialogView* openModeless(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
     void closeModeless(DialogView& view) override;
