@@ -50,6 +50,9 @@ public:
     virtual bool accept(DialogContext& context, int buttonId) = 0;
     // A control other than the shared ones and OK reported an event.
     virtual void notify(DialogContext&, const Notification&) {}
+    // A list or its Add or Remove button was used (names moved, or a
+    // selection changed): controls that depend on what the lists hold follow.
+    virtual void listsChanged(DialogContext&) {}
     // "Reset All": the dialog's own controls back to their first state.
     virtual void reset(DialogContext&) {}
     // The dialog is being cancelled.

@@ -108,10 +108,12 @@ int GenericDialog::onInit(DialogView& view) {
 void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
     if (closing_) return;
     const auto capacity = [this](int id) { return targetCapacity(id); };
-    if (controlId != kIdOk && controlId != kIdCancel &&
-        handleListTransfer(view, controlId, notifyCode, capacity, listInsertRule()))
-        return;
     DialogContext context{view, *this};
+    if (controlId != kIdOk && controlId != kIdCancel &&
+        handleListTransfer(view, controlId, notifyCode, capacity, listInsertRule())) {
+        if (behaviour_) behaviour_->listsChanged(context);
+        return;
+    }
     switch (controlId) {
     case IDC_HELPBUTTON: help(view); return;
     case IDC_RESETALL: resetAll(view); return;
