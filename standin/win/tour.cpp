@@ -175,10 +175,6 @@ int Tour::run() {
         visit("export-IDD_OPTIONSIMPORTEXPORT", [&] {
             return "DoImpExpOptionsDlg 0 = " + std::to_string(exports.doImpExpOptionsDlg(owner_, 0, 0));
         });
-    // The value labels of menu entry 78.
-    visit("0078-Labels", [&] {
-        return "StartDialog 78 = " + std::to_string(library_.startDialog(78, owner_, kSampleHelpFile));
-    });
     // The font chooser of the graph font command.
     visit("0150-Font", [&] {
         return "StartDialog 150 = " + std::to_string(library_.startDialog(150, owner_, kSampleHelpFile));
