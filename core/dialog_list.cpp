@@ -2,10 +2,11 @@
 #include <cstdint>
 
 #include "core/dispatch_table.h"
+#include "core/export_guard.h"
 #include "include/kvs_dlg.h"
 
 extern "C" int32_t KVS_CALL GetDialogList(KvsDialogEntry* entries, int32_t capacity) {
-    try {
+    return kvs::guardedExport(0, [&] {
         const auto rows = kvs::dispatchTable();
         std::int32_t written = 0;
         for (const kvs::DispatchRow& row : rows) {
@@ -13,7 +14,5 @@ extern "C" int32_t KVS_CALL GetDialogList(KvsDialogEntry* entries, int32_t capac
             entries[written++] = {row.id, static_cast<std::uint16_t>(row.family), row.caption, row.templateName};
         }
         return static_cast<std::int32_t>(rows.size());
-    } catch (...) {
-        return 0;
-    }
+    });
 }

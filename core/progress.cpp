@@ -1,5 +1,7 @@
 #include "core/progress.h"
 
+#include "core/export_guard.h"
+
 #include <array>
 #include <charconv>
 
@@ -165,25 +167,15 @@ void SamplingProgress::onClose(DialogView& view) {
 extern "C" {
 
 void KVS_CALL StartSamplingDialog(int32_t job, int32_t total) {
-    try {
-        kvs::samplingProgress().start(job, total);
-    } catch (...) {
-    }
+    kvs::guardedExport([&] { kvs::samplingProgress().start(job, total); });
 }
 
 int32_t KVS_CALL UpdateSamplingDialog(int32_t remaining, int32_t elapsedSeconds) {
-    try {
-        return kvs::samplingProgress().update(remaining, elapsedSeconds);
-    } catch (...) {
-        return 0;
-    }
+    return kvs::guardedExport(0, [&] { return kvs::samplingProgress().update(remaining, elapsedSeconds); });
 }
 
 void KVS_CALL ClearSamplingDialog(void) {
-    try {
-        kvs::samplingProgress().clear();
-    } catch (...) {
-    }
+    kvs::guardedExport([] { kvs::samplingProgress().clear(); });
 }
 
 }  // extern "C"

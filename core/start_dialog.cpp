@@ -5,6 +5,7 @@
 #include "core/descriptor.h"
 #include "core/dialog_defaults.h"
 #include "core/dispatch_table.h"
+#include "core/export_guard.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
 #include "include/kvs_dlg.h"
@@ -89,19 +90,13 @@ std::int32_t reinitDialogs(std::int32_t freeFlag) {
 extern "C" {
 
 int32_t KVS_CALL StartDialog(uint32_t commandId, KvsWindow owner, const char* helpFile) {
-    try {
+    return kvs::guardedExport(1, [&] {
         return kvs::startDialog(commandId, reinterpret_cast<kvs::WindowRef>(owner), helpFile);
-    } catch (...) {
-        return 1;
-    }
+    });
 }
 
 int32_t KVS_CALL ReinitDialogs(int32_t freeMemory) {
-    try {
-        return kvs::reinitDialogs(freeMemory);
-    } catch (...) {
-        return 1;
-    }
+    return kvs::guardedExport(1, [&] { return kvs::reinitDialogs(freeMemory); });
 }
 
 int32_t KVS_CALL SetDlgSortList(int32_t sorted) {

@@ -13,8 +13,10 @@ namespace kvs::data {
 
 // Runs "SaveAsOpts"; 1 for OK, 0 for Cancel.
 int runSaveAsOptions(WindowRef owner);
-// Appends " / TYPE=" and the chosen kind's keyword to a caller's line.
+// Appends " / TYPE=" and the chosen kind's keyword to a caller's line of at
+// most kSaveAsLineLimit characters; a clause that would pass it is left off.
 void attachSaveAsOptions(char* line);
+inline constexpr std::size_t kSaveAsLineLimit = CommandText::kCapacity - 1;
 
 // Runs "IDD_OPTIONSIMPORTEXPORT"; exporting retitles it and picks the export
 // help topic. 1 for OK, 0 for Cancel.

@@ -1,4 +1,5 @@
 #include <cstring>
+#include <string>
 #include <string_view>
 
 #include "core/help_requests.h"
@@ -46,16 +47,16 @@ int runSaveAsOptions(WindowRef owner) {
 
 void attachSaveAsOptions(char* line) {
     if (!line) return;
-    std::string_view clause = text::kSaveAsType;
-    std::size_t length = std::strlen(line);
-    std::memcpy(line + length, clause.data(), clause.size());
-    length += clause.size();
-    for (const SaveAsKind& kind : kKinds) {
-        if (kind.id != saveAs.kind) continue;
-        std::memcpy(line + length, kind.keyword.data(), kind.keyword.size());
-        length += kind.keyword.size();
-    }
-    line[length] = '\0';
+    std::string clause(text::kSaveAsType);
+    for (const SaveAsKind& kind : kKinds)
+        if (kind.id == saveAs.kind) clause.append(kind.keyword);
+    // The host's line buffer holds 10,000 bytes; a clause that does not fit
+    // whole is left off rather than cut.
+    const auto* end = static_cast<const char*>(std::memchr(line, '\0', kSaveAsLineLimit + 1));
+    if (!end) return;
+    const auto length = static_cast<std::size_t>(end - line);
+    if (length + clause.size() > kSaveAsLineLimit) return;
+    std::memcpy(line + length, clause.c_str(), clause.size() + 1);
 }
 
 void resetSaveAsOptions() { saveAs = SaveAsSettings{}; }

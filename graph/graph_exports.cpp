@@ -1,33 +1,24 @@
 // The exported entry points of the colour picker and the symbol pictures.
 #include "graph/colour_picker.h"
 #include "graph/picture_sets.h"
+#include "core/export_guard.h"
 #include "include/kvs_dlg.h"
 
 extern "C" {
 
 int32_t KVS_CALL ColorPickerDialogEx(KvsWindow owner, float* colour) {
-    try {
-        return kvs::graph::runColourPicker(reinterpret_cast<kvs::WindowRef>(owner), colour);
-    } catch (...) {
-        return 0;
-    }
+    return kvs::guardedExport(0, [&] { return kvs::graph::runColourPicker(reinterpret_cast<kvs::WindowRef>(owner), colour); });
 }
 
 int32_t KVS_CALL LoadSymbolBitmapsEx(void** table) {
-    try {
-        kvs::graph::loadSymbolPictures();
-    } catch (...) {
-        // What could be loaded stays; the count is 22 regardless.
-    }
+    // What could be loaded stays; the count is 22 regardless.
+    kvs::guardedExport([] { kvs::graph::loadSymbolPictures(); });
     if (table) *table = kvs::graph::symbolPictures().data();
     return kvs::graph::kSymbolPictures;
 }
 
 void KVS_CALL DeleteSymbolBitmapsEx(void) {
-    try {
-        kvs::graph::deleteSymbolPictures();
-    } catch (...) {
-    }
+    kvs::guardedExport([] { kvs::graph::deleteSymbolPictures(); });
 }
 
 }  // extern "C"

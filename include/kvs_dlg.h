@@ -75,9 +75,10 @@ KVS_EXPORT int32_t KVS_CALL DoSaveDataOptionsDlg(KvsWindow owner);
 KVS_EXPORT int32_t KVS_CALL DoImpExpOptionsDlg(KvsWindow owner, int32_t exportFlag, int32_t value);
 
 /* Append the chosen options to a NUL-terminated command line owned by the
- * caller. AttachSaveAsOptions needs room for 16 more characters;
- * AttachImpExpOptions's buffer must hold 10,000 bytes; it stops the line at
- * 9,998 characters. Both return 1. */
+ * caller, whose buffer must hold 10,000 bytes. Neither lets the line pass
+ * 9,998 characters: AttachSaveAsOptions leaves its clause off when it does
+ * not fit whole, AttachImpExpOptions appends the pieces that fit. Both
+ * return 1. */
 KVS_EXPORT int32_t KVS_CALL AttachSaveAsOptions(char* commandLine);
 KVS_EXPORT int32_t KVS_CALL AttachImpExpOptions(char* commandLine);
 

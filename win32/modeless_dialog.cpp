@@ -1,5 +1,7 @@
 #include "win32/modeless_dialog.h"
 
+#include "core/export_guard.h"
+
 #include <optional>
 
 #include "include/kvs_dlg.h"
@@ -154,9 +156,6 @@ bool pumpDialogMessages(HWND dialog) {
 
 // No exception may cross into the window manager.
 extern "C" intptr_t KVS_CALL ProcessDlgProc(KvsWindow window, uint32_t message, uintptr_t wParam, intptr_t lParam) {
-    try {
-        return kvs::win32::dispatch(static_cast<HWND>(window), message, wParam, lParam);
-    } catch (...) {
-        return FALSE;
-    }
+    return kvs::guardedExport(static_cast<intptr_t>(FALSE),
+                              [&] { return kvs::win32::dispatch(static_cast<HWND>(window), message, wParam, lParam); });
 }

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <new>
+#include <stdexcept>
 #include <string>
 
 #include "core/command_text.h"
+#include "core/export_guard.h"
 #include "core/file_filters.h"
 #include "core/join_names.h"
 #include "headless/embedded_resources.h"
@@ -93,3 +96,16 @@ TEST(ChooserExtension, ABareNameGetsTheChosenFiltersExtension) {
 }
 
 }  // namespace
+
+// An export's body that throws gives the export's failure value, never an
+// exception in the host.
+TEST(ExportGuard, AThrowingBodyGivesTheFallback) {
+    EXPECT_EQ(kvs::guardedExport(-1, []() -> int { throw std::bad_alloc(); }), -1);
+    EXPECT_EQ(kvs::guardedExport(0, [] { return 7; }), 7);
+    bool ran = false;
+    kvs::guardedExport([&] {
+        ran = true;
+        throw std::runtime_error("lost");
+    });
+    EXPECT_TRUE(ran);
+}

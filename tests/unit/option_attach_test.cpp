@@ -60,6 +60,26 @@ TEST_F(OptionAttachTest, ClausesStopAtTheLineLimit) {
     EXPECT_EQ(std::strlen(full.data()), 9999u);  // already past the bound: left as it is
 }
 
+// " / TYPE=RECT" is 12 characters: it goes on a line of 9,986 and is left
+// off a line of 9,987, whose buffer it would otherwise pass.
+TEST_F(OptionAttachTest, TheSaveAsClauseGoesOnWholeOrNotAtAll) {
+    std::vector<char> fits(10000, '\0');
+    std::memset(fits.data(), 'X', 9986);
+    EXPECT_EQ(AttachSaveAsOptions(fits.data()), 1);
+    EXPECT_EQ(std::strlen(fits.data()), 9998u);
+    EXPECT_EQ(std::string(fits.data() + 9986), " / TYPE=RECT");
+
+    std::vector<char> tooLong(10000, '\0');
+    std::memset(tooLong.data(), 'X', 9987);
+    EXPECT_EQ(AttachSaveAsOptions(tooLong.data()), 1);
+    EXPECT_EQ(std::strlen(tooLong.data()), 9987u);
+
+    std::vector<char> unterminated(10000, 'Z');  // no NUL within the bound: nothing is read past it
+    EXPECT_EQ(AttachSaveAsOptions(unterminated.data()), 1);
+    EXPECT_EQ(unterminated[9999], 'Z');
+    EXPECT_EQ(AttachSaveAsOptions(nullptr), 1);
+}
+
 TEST_F(OptionAttachTest, ReinitialisingKeepsTheChoices) {
     ui.act = [](DialogView& view, DialogHandler&) {
         view.setChecked(31, false);
