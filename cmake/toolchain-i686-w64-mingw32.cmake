@@ -1,13 +1,3 @@
-# Cross-compiling for i686 Windows with mingw-w64 (posix threads flavour).
-set(CMAKE_SYSTEM_NAME Windows)
+# Cross-compiling for i686 Windows with mingw-w64.
 set(CMAKE_SYSTEM_PROCESSOR i686)
-set(KVS_MINGW_PREFIX i686-w64-mingw32)
-find_program(CMAKE_CXX_COMPILER NAMES ${KVS_MINGW_PREFIX}-g++-posix ${KVS_MINGW_PREFIX}-g++ REQUIRED)
-find_program(CMAKE_C_COMPILER NAMES ${KVS_MINGW_PREFIX}-gcc-posix ${KVS_MINGW_PREFIX}-gcc REQUIRED)
-find_program(CMAKE_RC_COMPILER NAMES ${KVS_MINGW_PREFIX}-windres REQUIRED)
-find_program(KVS_DLLTOOL NAMES ${KVS_MINGW_PREFIX}-dlltool REQUIRED)
-find_program(KVS_OBJDUMP NAMES ${KVS_MINGW_PREFIX}-objdump REQUIRED)
-set(CMAKE_FIND_ROOT_PATH /usr/${KVS_MINGW_PREFIX})
-set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
-set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+include(${CMAKE_CURRENT_LIST_DIR}/mingw-toolchain.cmake)

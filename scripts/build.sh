@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
-# Configures and builds one configuration: native, native-sanitize, i686 or x86_64.
+# Configures and builds one configuration: native, native-release,
+# native-sanitize, i686 or x86_64.
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 config="${1:-native}"
 build="$root/build/$config"
 case "$config" in
   native)          args=(-DCMAKE_BUILD_TYPE=Debug) ;;
+  native-release)  args=(-DCMAKE_BUILD_TYPE=Release) ;;
   native-sanitize) args=(-DCMAKE_BUILD_TYPE=Debug -DKVS_SANITIZE=ON) ;;
   i686|x86_64)     args=(-DCMAKE_BUILD_TYPE=Release "-DCMAKE_TOOLCHAIN_FILE=$root/cmake/toolchain-$config-w64-mingw32.cmake") ;;
   *) echo "build.sh: unknown configuration $config" >&2; exit 2 ;;

@@ -5,7 +5,7 @@ set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 "$root/scripts/setup.sh"
 
-for config in native native-sanitize; do
+for config in native native-release native-sanitize; do
   echo "== $config"
   "$root/scripts/build.sh" "$config"
   ctest --test-dir "$root/build/$config" --output-on-failure -j2

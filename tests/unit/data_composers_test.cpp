@@ -32,7 +32,7 @@ const Names kTwo{"AGE", "INCOME"};
 
 TEST(DataComposers, SortRankTranspose) {
     Names twelve;
-    for (int i = 0; i < 12; ++i) twelve.push_back("K" + std::to_string(i));
+    for (int i = 0; i < 12; ++i) twelve.push_back(std::string("K").append(std::to_string(i)));
     expectRows({
         {"ascending keys end with a blank", [] { return composeSort(kTwo, IDC_SORT_ASCENDING); }, {"SORT AGE INCOME "}, ""},
         {"descending", [] { return composeSort(kTwo, IDC_SORT_DESCENDING); }, {"SORT AGE INCOME  / D"}, ""},
@@ -124,8 +124,8 @@ TEST(DataComposers, LongLinesStayInTheCompositionBuffer) {
 TEST(DataComposers, TransposeStopsAfterAWholeName) {
     Names names;
     for (int i = 0; i < 769; ++i) {
-        std::string number = std::to_string(i);
-        names.push_back("ABCD" + std::string(8 - number.size(), '0') + number);
+        const std::string number = std::to_string(i);
+        names.push_back(std::string("ABCD").append(8 - number.size(), '0').append(number));
     }
     const std::string line = composeTranspose(names).lines.at(0);
     EXPECT_GT(line.size(), kJoinLimit);

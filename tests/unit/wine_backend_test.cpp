@@ -50,8 +50,8 @@ TEST(WineBackend, RefusesSectionsOfFilesItDidNotAskFor) {
 }
 
 TEST(WineBackend, LinuxPathsAreNamedOnDriveZ) {
-    EXPECT_EQ("Z:\\work\\main\\tests\\scenarios\\sort.scn",
-              kvs::tools::windowsPath("/work/main/tests/scenarios/sort.scn"));
+    EXPECT_EQ("Z:\\src\\kvs_dlg\\tests\\scenarios\\sort.scn",
+              kvs::tools::windowsPath("/src/kvs_dlg/tests/scenarios/sort.scn"));
     EXPECT_EQ("Z:\\tmp\\kvsdlg-wine-AbC123", kvs::tools::windowsPath("/tmp/kvsdlg-wine-AbC123"));
 }
 

@@ -46,7 +46,7 @@ int main() {
     std::printf("%10s %12s %14s %12s %14s\n", "variables", "fill ms", "fill us/var", "store ms", "store us/var");
     for (int count : {1000, 5000, 20000, 80000}) {
         std::vector<std::string> names;
-        for (int i = 1; i <= count; ++i) names.push_back("V" + std::to_string(i));
+        for (int i = 1; i <= count; ++i) names.push_back(std::string("V").append(std::to_string(i)));
         kvs::standin::KernelState::instance().setVariables(names);
 
         kvs::headless::HeadlessDialog dialog(*resources.dialog("Sort"));

@@ -17,5 +17,5 @@ status=0
 echo "== driver checks under Wine"
 kvs_wine "$KVS_WINE_DIR/standin_win_test.exe" || status=1
 echo "== scenarios under Wine"
-"${KVSDLG:-$kvs_root/build/native/tools/kvsdlg}" check --backend=wine "$kvs_root"/tests/scenarios/*.scn || status=1
+"${KVSDLG:-$kvs_root/build/native/tools/kvsdlg}" check --backend=wine "$kvs_root"/tests/scenarios/*.scn "$kvs_root"/examples/*.scn || status=1
 exit $status

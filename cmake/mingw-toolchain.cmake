@@ -1,0 +1,14 @@
+# Cross-compiling for Windows with mingw-w64 (posix threads flavour). The
+# architecture's toolchain file sets CMAKE_SYSTEM_PROCESSOR (i686 or x86_64)
+# and includes this one.
+set(CMAKE_SYSTEM_NAME Windows)
+set(KVS_MINGW_PREFIX ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
+find_program(CMAKE_CXX_COMPILER NAMES ${KVS_MINGW_PREFIX}-g++-posix ${KVS_MINGW_PREFIX}-g++ REQUIRED)
+find_program(CMAKE_C_COMPILER NAMES ${KVS_MINGW_PREFIX}-gcc-posix ${KVS_MINGW_PREFIX}-gcc REQUIRED)
+find_program(CMAKE_RC_COMPILER NAMES ${KVS_MINGW_PREFIX}-windres REQUIRED)
+find_program(KVS_DLLTOOL NAMES ${KVS_MINGW_PREFIX}-dlltool REQUIRED)
+find_program(KVS_OBJDUMP NAMES ${KVS_MINGW_PREFIX}-objdump REQUIRED)
+set(CMAKE_FIND_ROOT_PATH /usr/${KVS_MINGW_PREFIX})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
