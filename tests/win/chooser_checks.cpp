@@ -49,8 +49,8 @@ void CALLBACK readAndCancel(HWND, UINT, UINT_PTR timer, DWORD) {
 
 }  // namespace
 
-std::vector<std::string> checkFileFilters() {
-    std::vector<std::string> failures;
+kvs::check::Failures checkFileFilters() {
+    kvs::check::Failures failures;
     kvs::prepareFileFilters();
     const kvs::FileFilters& f = kvs::fileFilters();
     const struct {
@@ -70,11 +70,12 @@ std::vector<std::string> checkFileFilters() {
         request.flags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
         const auto chosen = kvs::ui().chooseFile(request);
         const std::string name = std::string("file filter ") + entry.name;
-        if (chosen) failures.push_back(name + ": the cancelled dialog returned a file");
-        if (!dialogSeen) failures.push_back(name + ": no Open dialog appeared");
-        else if (shownTypes != descriptionsOf(*entry.filter))
-            failures.push_back(name + ": the dialog offers " + std::to_string(shownTypes.size()) +
-                               " types, not the filter's " + std::to_string(descriptionsOf(*entry.filter).size()));
+        kvs::check::expect(failures, !chosen, name + ": the cancelled dialog returned a file");
+        kvs::check::expect(failures, dialogSeen, name + ": no Open dialog appeared");
+        if (dialogSeen)
+            kvs::check::expect(failures, shownTypes == descriptionsOf(*entry.filter),
+                               name + ": the dialog offers " + std::to_string(shownTypes.size()) +
+                                   " types, not the filter's " + std::to_string(descriptionsOf(*entry.filter).size()));
     }
     return failures;
 }

@@ -2,9 +2,8 @@
 // Wine by tests/win/run_wine_check.sh controls_check. Each returns its failures.
 #pragma once
 
-#include <string>
-#include <vector>
+#include "tests/check/failures.h"
 
-std::vector<std::string> checkNumericFields();
-std::vector<std::string> checkProgressWindow();
-std::vector<std::string> checkFileFilters();
+kvs::check::Failures checkNumericFields();
+kvs::check::Failures checkProgressWindow();
+kvs::check::Failures checkFileFilters();

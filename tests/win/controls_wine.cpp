@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "core/seam.h"
+#include "tests/check/failures.h"
 #include "tests/win/controls_checks.h"
 #include "win32/module_instance.h"
 #include "win32/win32_ui.h"
@@ -12,12 +13,10 @@
 int main() {
     kvs::win32::setModuleInstance(GetModuleHandleA(nullptr));
     kvs::setUi(&kvs::win32::win32Ui());
-    std::vector<std::string> failures = checkNumericFields();
-    const std::vector<std::string> progress = checkProgressWindow();
+    kvs::check::Failures failures = checkNumericFields();
+    const kvs::check::Failures progress = checkProgressWindow();
     failures.insert(failures.end(), progress.begin(), progress.end());
-    const std::vector<std::string> filters = checkFileFilters();
+    const kvs::check::Failures filters = checkFileFilters();
     failures.insert(failures.end(), filters.begin(), filters.end());
-    for (const std::string& failure : failures) std::printf("FAIL %s\n", failure.c_str());
-    if (failures.empty()) std::printf("ok: numeric fields, the up/down control, the progress window and the file filters on real windows\n");
-    return static_cast<int>(failures.size());
+    return kvs::check::report(failures, "numeric fields, the up/down control, the progress window and the file filters on real windows");
 }

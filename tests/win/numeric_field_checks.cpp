@@ -2,6 +2,7 @@
 // runModal with an integer field that notifies (paired with a "Tmicroscroll"
 // up/down control) and a real field that does not. A thread timer plays the
 // user, answers the message boxes and checks what each action left behind.
+#include "tests/check/failures.h"
 #include "tests/win/controls_checks.h"
 
 #include <windows.h>
@@ -23,7 +24,7 @@ constexpr UINT kTickMilliseconds = 20;
 constexpr UINT kRepeatMilliseconds = 40;
 constexpr int kTickLimit = 1500;  // 30 s: a stuck check gives up
 
-std::vector<std::string> failures;  // of this file's checks
+kvs::check::Failures failures;  // of this file's checks
 std::vector<std::string> messages;  // texts of the message boxes answered
 std::vector<std::pair<int, double>> notified;
 HWND dialog = nullptr;
@@ -31,9 +32,6 @@ bool okClicked = false;
 kvs::NumericField integerField;
 kvs::NumericField realField;
 
-void expect(bool ok, const std::string& what) {
-    if (!ok) failures.push_back(what);
-}
 
 void onNotify(int id, double value) { notified.emplace_back(id, value); }
 
@@ -141,12 +139,12 @@ void buildSteps() {
     });
     steps.push_back([] { return waitTicks(5); });
     steps.push_back([] {
-        expect(messages == std::vector<std::string>{"String in control is not a integer."},
+        kvs::check::expect(failures, messages == std::vector<std::string>{"String in control is not a integer."},
                "Tab on 12.5 in an integer field shows one \"not a integer\" message");
-        expect(GetFocus() == item(kInteger), "the focus stays in the invalid field");
-        expect(textOf(item(kInteger)) == "12.5", "the invalid text is kept");
-        expect(selection(item(kInteger)) == std::make_pair(DWORD{0}, DWORD{4}), "the invalid text is selected");
-        expect(integerField.value == 5, "the stored value stays the last valid one");
+        kvs::check::expect(failures, GetFocus() == item(kInteger), "the focus stays in the invalid field");
+        kvs::check::expect(failures, textOf(item(kInteger)) == "12.5", "the invalid text is kept");
+        kvs::check::expect(failures, selection(item(kInteger)) == std::make_pair(DWORD{0}, DWORD{4}), "the invalid text is selected");
+        kvs::check::expect(failures, integerField.value == 5, "the stored value stays the last valid one");
         // Enter is the field's own: it checks and does not press OK.
         SetWindowTextA(item(kInteger), "0");
         PostMessageA(item(kInteger), WM_KEYDOWN, VK_RETURN, 0);
@@ -154,8 +152,8 @@ void buildSteps() {
     });
     steps.push_back([] { return waitTicks(5); });
     steps.push_back([] {
-        expect(messages.size() == 2 && messages.back() == "Out of range error.", "Enter on 0 reports the range");
-        expect(!okClicked && GetFocus() == item(kInteger), "Enter in a field does not reach the default button");
+        kvs::check::expect(failures, messages.size() == 2 && messages.back() == "Out of range error.", "Enter on 0 reports the range");
+        kvs::check::expect(failures, !okClicked && GetFocus() == item(kInteger), "Enter in a field does not reach the default button");
         messages.pop_back();
         // A good value, then on to the real field: the change is notified.
         SetWindowTextA(item(kInteger), "9");
@@ -163,8 +161,8 @@ void buildSteps() {
         return true;
     });
     steps.push_back([] {
-        expect(integerField.value == 9, "leaving a valid field stores its value");
-        expect(notified == std::vector<std::pair<int, double>>{{kInteger, 9.0}}, "a changed value is notified once");
+        kvs::check::expect(failures, integerField.value == 9, "leaving a valid field stores its value");
+        kvs::check::expect(failures, notified == std::vector<std::pair<int, double>>{{kInteger, 9.0}}, "a changed value is notified once");
         // Tab from an invalid field to Cancel: giving up, no message.
         SetWindowTextA(item(kReal), "abc");
         PostMessageA(item(kReal), WM_KEYDOWN, VK_TAB, 0);
@@ -172,8 +170,8 @@ void buildSteps() {
     });
     steps.push_back([] { return waitTicks(5); });
     steps.push_back([] {
-        expect(GetFocus() == item(IDCANCEL), "Tab moves from the real field to Cancel");
-        expect(messages.size() == 1, "leaving an invalid field for Cancel shows no message");
+        kvs::check::expect(failures, GetFocus() == item(IDCANCEL), "Tab moves from the real field to Cancel");
+        kvs::check::expect(failures, messages.size() == 1, "leaving an invalid field for Cancel shows no message");
         // Leaving it for OK reports later, once, and takes the focus back
         // without clicking OK.
         SetFocus(item(kReal));
@@ -182,50 +180,50 @@ void buildSteps() {
     });
     steps.push_back([] { return waitTicks(5); });
     steps.push_back([] {
-        expect(messages.size() == 2 && messages.back() == "String in control is not a number.",
+        kvs::check::expect(failures, messages.size() == 2 && messages.back() == "String in control is not a number.",
                "leaving \"abc\" for OK reports \"not a number\" once:" + messageList());
-        expect(GetFocus() == item(kReal), "the deferred report gives the focus back to the field");
-        expect(selection(item(kReal)) == std::make_pair(DWORD{0}, DWORD{3}), "the field's text is selected again");
-        expect(!okClicked, "the button that took the focus is not clicked");
+        kvs::check::expect(failures, GetFocus() == item(kReal), "the deferred report gives the focus back to the field");
+        kvs::check::expect(failures, selection(item(kReal)) == std::make_pair(DWORD{0}, DWORD{3}), "the field's text is selected again");
+        kvs::check::expect(failures, !okClicked, "the button that took the focus is not clicked");
         SetWindowTextA(item(kReal), "0.25");
         SetFocus(item(kInteger));
         return true;
     });
     // The up arrow past the maximum stops at it.
     steps.push_back([] {
-        expect(realField.value == 0.25, "a real value is stored when the field is left");
+        kvs::check::expect(failures, realField.value == 0.25, "a real value is stored when the field is left");
         SendMessageA(upDown(), WM_LBUTTONDOWN, MK_LBUTTON, upDownPoint(true));
         SendMessageA(upDown(), WM_LBUTTONUP, 0, upDownPoint(true));
         SendMessageA(upDown(), WM_LBUTTONDOWN, MK_LBUTTON, upDownPoint(true));
         SendMessageA(upDown(), WM_LBUTTONUP, 0, upDownPoint(true));
-        expect(textOf(item(kInteger)) == "10" && integerField.value == 10, "the up arrow stops at the maximum");
-        expect(textOf(upDown()) == "1,10,10", "the up/down text names the position");
-        expect(messages.size() == 2, "stepping shows no message:" + messageList());
+        kvs::check::expect(failures, textOf(item(kInteger)) == "10" && integerField.value == 10, "the up arrow stops at the maximum");
+        kvs::check::expect(failures, textOf(upDown()) == "1,10,10", "the up/down text names the position");
+        kvs::check::expect(failures, messages.size() == 2, "stepping shows no message:" + messageList());
         // Held down, the down arrow repeats.
         SendMessageA(upDown(), WM_LBUTTONDOWN, MK_LBUTTON, upDownPoint(false));
-        expect(GetCapture() == upDown(), "a pressed arrow holds the mouse");
+        kvs::check::expect(failures, GetCapture() == upDown(), "a pressed arrow holds the mouse");
         return true;
     });
     steps.push_back([] { return waitTicks(8); });
     steps.push_back([] {
         SendMessageA(upDown(), WM_LBUTTONUP, 0, upDownPoint(false));
-        expect(integerField.value <= 7 && integerField.value >= 1, "a held arrow steps again and again");
-        expect(GetCapture() != upDown(), "releasing the arrow lets the mouse go");
+        kvs::check::expect(failures, integerField.value <= 7 && integerField.value >= 1, "a held arrow steps again and again");
+        kvs::check::expect(failures, GetCapture() != upDown(), "releasing the arrow lets the mouse go");
         return true;
     });
     steps.push_back([] {
         static double released = 0;
         if (waited == 0) released = integerField.value;
         if (!waitTicks(6)) return false;
-        expect(integerField.value == released, "a released arrow stops stepping");
-        expect(textOf(item(kInteger)) == kvs::formatFieldValue(integerField), "the field shows the stepped value");
+        kvs::check::expect(failures, integerField.value == released, "a released arrow stops stepping");
+        kvs::check::expect(failures, textOf(item(kInteger)) == kvs::formatFieldValue(integerField), "the field shows the stepped value");
         return true;
     });
 }
 
 void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
     if (++ticks > kTickLimit) {
-        failures.push_back("stuck at step " + std::to_string(nextStep));
+        failures.emplace_back("stuck at step " + std::to_string(nextStep));
         if (dialog) EndDialog(dialog, IDCANCEL);
         return;
     }
@@ -233,7 +231,7 @@ void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
     EnumThreadWindows(GetCurrentThreadId(), findMessageBox, reinterpret_cast<LPARAM>(&box));
     if (box) {
         messages.push_back(textOf(GetDlgItem(box, 0xFFFF)));
-        expect(textOf(box) == "KFW", "a field message has the caption KFW");
+        kvs::check::expect(failures, textOf(box) == "KFW", "a field message has the caption KFW");
         SendMessageA(GetDlgItem(box, IDOK), BM_CLICK, 0, 0);
         return;
     }
@@ -249,12 +247,12 @@ void CALLBACK tick(HWND, UINT, UINT_PTR, DWORD) {
 
 }  // namespace
 
-std::vector<std::string> checkNumericFields() {
+kvs::check::Failures checkNumericFields() {
     const HINSTANCE instance = GetModuleHandleA(nullptr);
-    expect(kvs::win32::registerMicroscroll(instance), "the up/down class registers");
-    expect(!kvs::win32::registerMicroscroll(instance), "a second registration is refused");
+    kvs::check::expect(failures, kvs::win32::registerMicroscroll(instance), "the up/down class registers");
+    kvs::check::expect(failures, !kvs::win32::registerMicroscroll(instance), "a second registration is refused");
     WNDCLASSA registered{};
-    expect(GetClassInfoA(instance, kvs::win32::kMicroscrollClass, &registered) &&
+    kvs::check::expect(failures, GetClassInfoA(instance, kvs::win32::kMicroscrollClass, &registered) &&
                registered.cbWndExtra == static_cast<int>(sizeof(void*)) &&
                registered.style == (CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS),
            "the up/down class keeps a pointer and redraws on resizing");
@@ -264,6 +262,6 @@ std::vector<std::string> checkNumericFields() {
     FieldDialog handler;
     kvs::win32::win32Ui().runModal(0, "NUMERICFIELDS", handler);
     KillTimer(nullptr, timer);
-    expect(nextStep == steps.size(), "every step ran");
+    kvs::check::expect(failures, nextStep == steps.size(), "every step ran");
     return failures;
 }

@@ -10,18 +10,16 @@
 #include "include/kvs_dlg.h"
 #include "include/kvs_imports.h"
 #include "resources/progress_ids.h"
+#include "tests/check/failures.h"
 #include "tests/win/controls_checks.h"
 
 namespace {
 
-std::vector<std::string> failures;
+kvs::check::Failures failures;
 std::vector<std::string> calls;      // host and kernel calls, as transcript lines
 std::vector<std::string> questions;  // "caption|text" of each message box answered
 std::deque<int> answers;
 
-void expect(bool ok, const std::string& what) {
-    if (!ok) failures.push_back(what);
-}
 
 HWND progressWindow() { return FindWindowA("#32770", "Processing..."); }
 
@@ -77,63 +75,63 @@ int32_t KVS_CALL DoWindowEnable(int32_t enable) {
 void KVS_CALL CancelSampling(int32_t job) { calls.push_back("CancelSampling " + std::to_string(job)); }
 }
 
-std::vector<std::string> checkProgressWindow() {
+kvs::check::Failures checkProgressWindow() {
     const UINT_PTR timer = SetTimer(nullptr, 0, 20, answer);
 
     StartSamplingDialog(7, 100);
     HWND dialog = progressWindow();
-    expect(dialog && IsWindowVisible(dialog), "the progress window is up after the start");
-    expect(calls == std::vector<std::string>{"DoWindowEnable 0"}, "the start disables the host");
-    expect(GetWindowLongPtrA(dialog, GWLP_USERDATA) == 0, "the start resets the bar");
-    expect(GetFocus() == GetDlgItem(dialog, IDCANCEL), "Cancel has the focus");
-    expect(barPainted(dialog, false), "the bar starts empty");
+    kvs::check::expect(failures, dialog && IsWindowVisible(dialog), "the progress window is up after the start");
+    kvs::check::expect(failures, calls == std::vector<std::string>{"DoWindowEnable 0"}, "the start disables the host");
+    kvs::check::expect(failures, GetWindowLongPtrA(dialog, GWLP_USERDATA) == 0, "the start resets the bar");
+    kvs::check::expect(failures, GetFocus() == GetDlgItem(dialog, IDCANCEL), "Cancel has the focus");
+    kvs::check::expect(failures, barPainted(dialog, false), "the bar starts empty");
 
-    expect(UpdateSamplingDialog(99, 3725) == 0, "an update answers 0");
-    expect(itemText(dialog, IDC_PROGRESS_DONE) == "2" && itemText(dialog, IDC_PROGRESS_TOTAL) == "100",
+    kvs::check::expect(failures, UpdateSamplingDialog(99, 3725) == 0, "an update answers 0");
+    kvs::check::expect(failures, itemText(dialog, IDC_PROGRESS_DONE) == "2" && itemText(dialog, IDC_PROGRESS_TOTAL) == "100",
            "the first update counts sample 2 of 100");
-    expect(itemText(dialog, IDC_PROGRESS_ELAPSED) == "1:02:05", "3725 s read 1:02:05");
-    expect(itemText(dialog, IDC_PROGRESS_REMAINING) == "50:42:05", "the remaining time is estimated");
-    expect(GetWindowLongPtrA(dialog, GWLP_USERDATA) == 2 * 32767 / 101, "the user word holds the bar drawn");
+    kvs::check::expect(failures, itemText(dialog, IDC_PROGRESS_ELAPSED) == "1:02:05", "3725 s read 1:02:05");
+    kvs::check::expect(failures, itemText(dialog, IDC_PROGRESS_REMAINING) == "50:42:05", "the remaining time is estimated");
+    kvs::check::expect(failures, GetWindowLongPtrA(dialog, GWLP_USERDATA) == 2 * 32767 / 101, "the user word holds the bar drawn");
     UpdateSamplingDialog(30, 4000);
-    expect(barPainted(dialog, true), "the bar is painted in cyan from the left");
+    kvs::check::expect(failures, barPainted(dialog, true), "the bar is painted in cyan from the left");
 
     // A Cancel posted to the window is found by the update's pump; No keeps
     // the job and puts the focus back on Cancel.
     SetFocus(dialog);
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
     answers = {IDNO};
-    expect(UpdateSamplingDialog(20, 4100) == 0, "No answers 0");
-    expect(questions.size() == 1 && questions[0] == "Cancel| Are you sure you want to Cancel this process?",
+    kvs::check::expect(failures, UpdateSamplingDialog(20, 4100) == 0, "No answers 0");
+    kvs::check::expect(failures, questions.size() == 1 && questions[0] == "Cancel| Are you sure you want to Cancel this process?",
            "a cancel asks for confirmation");
-    expect(GetFocus() == GetDlgItem(dialog, IDCANCEL), "after No the focus is on Cancel");
-    expect(calls.size() == 1, "after No the job goes on");
+    kvs::check::expect(failures, GetFocus() == GetDlgItem(dialog, IDCANCEL), "after No the focus is on Cancel");
+    kvs::check::expect(failures, calls.size() == 1, "after No the job goes on");
 
     SendMessageA(GetDlgItem(dialog, IDCANCEL), BM_CLICK, 0, 0);
     answers = {IDYES};
-    expect(UpdateSamplingDialog(10, 4200) == 1, "Yes answers 1");
-    expect(calls.back() == "CancelSampling 7", "Yes cancels the job");
-    expect(IsWindow(dialog), "cancelling leaves the window to the host's clear");
+    kvs::check::expect(failures, UpdateSamplingDialog(10, 4200) == 1, "Yes answers 1");
+    kvs::check::expect(failures, calls.back() == "CancelSampling 7", "Yes cancels the job");
+    kvs::check::expect(failures, IsWindow(dialog), "cancelling leaves the window to the host's clear");
 
     SendMessageA(dialog, WM_USER, PROGRESS_SET_CAPTION, reinterpret_cast<LPARAM>("Sampling"));
-    expect(textOf(dialog) == "Sampling", "request 6 sets the caption");
+    kvs::check::expect(failures, textOf(dialog) == "Sampling", "request 6 sets the caption");
 
     // Closing from the system menu destroys the window; the next update
     // still asks.
     SendMessageA(dialog, WM_CLOSE, 0, 0);
-    expect(!IsWindow(dialog), "WM_CLOSE destroys the window");
+    kvs::check::expect(failures, !IsWindow(dialog), "WM_CLOSE destroys the window");
     answers = {IDNO};
     UpdateSamplingDialog(5, 4300);
-    expect(questions.size() == 3, "an update after a close still asks");
+    kvs::check::expect(failures, questions.size() == 3, "an update after a close still asks");
     ClearSamplingDialog();
-    expect(calls.back() == "DoWindowEnable 1", "the clear enables the host");
+    kvs::check::expect(failures, calls.back() == "DoWindowEnable 1", "the clear enables the host");
 
     StartSamplingDialog(8, 10);
     dialog = progressWindow();
     SendMessageA(dialog, WM_USER, PROGRESS_DESTROY, 0);
-    expect(!IsWindow(dialog), "request 4 destroys the window");
+    kvs::check::expect(failures, !IsWindow(dialog), "request 4 destroys the window");
     UpdateSamplingDialog(5, 10);
     ClearSamplingDialog();
-    expect(!progressWindow(), "nothing is left open");
+    kvs::check::expect(failures, !progressWindow(), "nothing is left open");
 
     KillTimer(nullptr, timer);
     return failures;

@@ -23,9 +23,6 @@ using kvs::viewcheck::Failures;
 constexpr int kRunChecks = 900;
 constexpr int kEndResult = 77;
 
-void expect(Failures& failures, bool ok, const char* what) {
-    if (!ok) failures.push_back(what);
-}
 
 class CheckingHandler : public kvs::DialogHandler {
 public:
@@ -33,7 +30,7 @@ public:
 
     int onInit(DialogView& view) override {
         dialog_ = reinterpret_cast<HWND>(view.handle());
-        expect(failures, kvs::win32::activeLibraryDialog() == dialog_, "the open dialog is the active one");
+        kvs::check::expect(failures, kvs::win32::activeLibraryDialog() == dialog_, "the open dialog is the active one");
         // The checks run once the dialog is up and can hold the focus.
         PostMessageA(dialog_, WM_COMMAND, kRunChecks, 0);
         return 0;
@@ -68,15 +65,15 @@ private:
         SendMessageA(GetDlgItem(dialog_, kvs::viewcheck::kEdit), WM_CHAR, 'x', 0);
         bool typed = false;
         for (const auto& [id, code] : received_) typed = typed || (id == kvs::viewcheck::kEdit && code == EN_CHANGE);
-        expect(failures, typed, "typing in an edit control reaches the handler as EN_CHANGE");
+        kvs::check::expect(failures, typed, "typing in an edit control reaches the handler as EN_CHANGE");
 
         SendMessageA(dialog_, WM_SYSCOMMAND, 804, 0);
         SendMessageA(dialog_, WM_SYSCOMMAND, 801, 0);
         SendMessageA(dialog_, WM_SYSCOMMAND, 805, 0);
-        expect(failures, sysCommands_ == std::vector<int>{804, 801}, "system commands 801 to 804 go to the handler");
+        kvs::check::expect(failures, sysCommands_ == std::vector<int>{804, 801}, "system commands 801 to 804 go to the handler");
         char label[64] = "";
         GetMenuStringA(GetSystemMenu(dialog_, FALSE), 804, label, sizeof label, MF_BYCOMMAND);
-        expect(failures, std::string(label) == "Help on this Dialog", "the system menu offers help on the dialog");
+        kvs::check::expect(failures, std::string(label) == "Help on this Dialog", "the system menu offers help on the dialog");
 
         PostMessageA(dialog_, WM_CLOSE, 0, 0);
     }
@@ -103,14 +100,12 @@ int main() {
     CheckingHandler checking;
     const int result = ui.runModal(0, "VIEWPARITY", checking);
     Failures failures = checking.failures;
-    expect(failures, result == kEndResult, "WM_CLOSE reaches the handler as Cancel and end() sets the result");
-    expect(failures, kvs::win32::activeLibraryDialog() == nullptr, "the active dialog is restored on close");
+    kvs::check::expect(failures, result == kEndResult, "WM_CLOSE reaches the handler as Cancel and end() sets the result");
+    kvs::check::expect(failures, kvs::win32::activeLibraryDialog() == nullptr, "the active dialog is restored on close");
 
     ThrowingHandler throwing;
-    expect(failures, ui.runModal(0, "VIEWPARITY", throwing) == IDCANCEL, "a throwing handler cancels its dialog");
-    expect(failures, ui.runModal(0, "NOSUCHTEMPLATE", throwing) == -1, "a missing template gives -1");
+    kvs::check::expect(failures, ui.runModal(0, "VIEWPARITY", throwing) == IDCANCEL, "a throwing handler cancels its dialog");
+    kvs::check::expect(failures, ui.runModal(0, "NOSUCHTEMPLATE", throwing) == -1, "a missing template gives -1");
 
-    for (const std::string& failure : failures) std::printf("FAIL %s\n", failure.c_str());
-    if (failures.empty()) std::printf("ok: the Win32 view and dialog procedure behave as the headless twin\n");
-    return static_cast<int>(failures.size());
+    return kvs::check::report(failures, "the Win32 view and dialog procedure behave as the headless twin");
 }

@@ -12,15 +12,17 @@ std::vector<Case>& cases() {
     return all;
 }
 
-int failures = 0;
-
 }  // namespace
 
 Register::Register(const char* name, void (*run)()) { cases().push_back(Case{name, run}); }
 
+check::Failures& currentFailures() {
+    static check::Failures failures;
+    return failures;
+}
+
 void fail(const char* file, int line, const std::string& what) {
-    ++failures;
-    std::printf("  %s:%d: %s\n", file, line, what.c_str());
+    check::expect(currentFailures(), false, std::string(file) + ":" + std::to_string(line) + ": " + what);
 }
 
 }  // namespace kvs::standin::test
@@ -29,12 +31,13 @@ int main() {
     using namespace kvs::standin::test;
     int passed = 0, failed = 0;
     for (const Case& c : cases()) {
-        const int before = failures;
+        currentFailures().clear();
         c.run();
-        if (failures == before) {
+        if (currentFailures().empty()) {
             ++passed;
         } else {
             ++failed;
+            for (const std::string& failure : currentFailures()) std::printf("  %s\n", failure.c_str());
             std::printf("FAIL %s\n", c.name);
         }
     }

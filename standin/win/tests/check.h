@@ -1,10 +1,13 @@
-// A small check harness for the Windows-side tests, which run under Wine
-// where no test framework is installed. Prints each failure and closes with
-// "N passed, N failed".
+// The registry of the stand-in's check cases, which run under Wine where no
+// test framework is installed. A case's checks record their failures in the
+// shared list of tests/check/failures.h; the program prints them per case
+// and closes with "N passed, N failed".
 #pragma once
 
 #include <functional>
 #include <string>
+
+#include "tests/check/failures.h"
 
 namespace kvs::standin::test {
 
@@ -18,6 +21,8 @@ struct Register {
     Register(const char* name, void (*run)());
 };
 
+// The failures of the running case.
+check::Failures& currentFailures();
 void fail(const char* file, int line, const std::string& what);
 
 #define KVS_TEST(name)                                              \
