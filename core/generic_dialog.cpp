@@ -27,40 +27,35 @@ int GenericDialog::targetCapacity(int listId) const {
     return 0;
 }
 
+// The target lists this dialog shows, with the selection arrays behind them.
+// An array whose list the template lacks is left as it is.
 void GenericDialog::prepareTargets(DialogView& view) {
     Descriptor& d = descriptor_;
     targets_.clear();
     if (!d.first.exists) return;
     const int mode = row_.mode;
+    const auto addTarget = [&](int listId, SelectionArray& array, std::int32_t capacity, int add, int remove,
+                               bool disableButtons) {
+        if (!view.has(listId)) return;
+        targets_.push_back({listId, &array, capacity, {}});
+        if (!disableButtons) return;
+        if (view.has(add)) view.enable(add, false);
+        if (view.has(remove)) view.enable(remove, false);
+    };
     // A dialog that picks one variable shows the first selection in its
     // one-variable list, which never holds more than one name.
     if (!view.has(IDC_TARGET1) && view.has(IDC_ONE_VARIABLE))
-        targets_.push_back({IDC_ONE_VARIABLE, &d.first, 1, {}});
+        addTarget(IDC_ONE_VARIABLE, d.first, 1, IDC_ADD1, IDC_REMOVE1, true);
     else
-        targets_.push_back({IDC_TARGET1, &d.first, mode == 0 ? 1 : d.firstCapacity, {}});
-    view.enable(IDC_ADD1, false);
-    view.enable(IDC_REMOVE1, false);
+        addTarget(IDC_TARGET1, d.first, mode == 0 ? 1 : d.firstCapacity, IDC_ADD1, IDC_REMOVE1, true);
     if (d.second.exists) {
         const std::int32_t capacity = mode == 1 ? std::min<std::int32_t>(d.secondCapacity, 1) : d.secondCapacity;
-        targets_.push_back({IDC_TARGET2, &d.second, capacity, {}});
-        if (d.secondCapacity > 0) {
-            view.enable(IDC_ADD2, false);
-            view.enable(IDC_REMOVE2, false);
-        }
+        addTarget(IDC_TARGET2, d.second, capacity, IDC_ADD2, IDC_REMOVE2, d.secondCapacity > 0);
     }
     if (fourLists()) {
-        if (d.third.exists) {
-            targets_.push_back({IDC_TARGET3, &d.third, d.thirdCapacity, {}});
-            view.enable(IDC_ADD3, false);
-            view.enable(IDC_REMOVE3, false);
-        }
-        if (d.fourth.exists) {
-            targets_.push_back({IDC_TARGET4, &d.fourth, d.fourthCapacity, {}});
-            if (d.fourthCapacity > 0) {
-                view.enable(IDC_ADD4, false);
-                view.enable(IDC_REMOVE4, false);
-            }
-        }
+        if (d.third.exists) addTarget(IDC_TARGET3, d.third, d.thirdCapacity, IDC_ADD3, IDC_REMOVE3, true);
+        if (d.fourth.exists)
+            addTarget(IDC_TARGET4, d.fourth, d.fourthCapacity, IDC_ADD4, IDC_REMOVE4, d.fourthCapacity > 0);
     }
 }
 
@@ -77,7 +72,8 @@ int GenericDialog::onInit(DialogView& view) {
         DialogContext context{view, *this};
         if (!behaviour_ || !behaviour_->fillSources(context, sourceCatalogue_, secondCatalogue_)) {
             const bool numericOnly = descriptor_.switch1 != 0;
-            fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
+            if (view.has(IDC_SOURCE))
+                fillVariableList(view, IDC_SOURCE, how, variables, numericOnly, commandId_, sourceCatalogue_);
             if (descriptor_.listFlag && view.has(IDC_SOURCE2))
                 fillVariableList(view, IDC_SOURCE2, how, variables, numericOnly, commandId_, secondCatalogue_);
         }
@@ -141,8 +137,8 @@ void GenericDialog::close(DialogView& view, int result) {
             behaviour_->cancel(context);
         }
     }
-    view.listClear(IDC_SOURCE);
-    if (descriptor_.listFlag) view.listClear(IDC_SOURCE2);
+    if (view.has(IDC_SOURCE)) view.listClear(IDC_SOURCE);
+    if (descriptor_.listFlag && view.has(IDC_SOURCE2)) view.listClear(IDC_SOURCE2);
     library().helpContext = 0;
     view.end(result);
 }

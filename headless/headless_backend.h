@@ -57,6 +57,8 @@ class HeadlessRunner {
 public:
     explicit HeadlessRunner(const ResourceSet& resources);
     std::string run(std::string_view source);
+    // See HeadlessUi::setStrict.
+    void setStrict(bool strict) { ui_.setStrict(strict); }
 
 private:
     void emit(const std::string& line);

@@ -110,6 +110,25 @@ ControlState* HeadlessDialog::find(int id) {
     return const_cast<ControlState*>(static_cast<const HeadlessDialog*>(this)->find(id));
 }
 
+const ControlState* HeadlessDialog::reach(int id) const {
+    const ControlState* c = find(id);
+    if (!c && onMissing_) onMissing_(id);
+    return c;
+}
+
+ControlState* HeadlessDialog::reach(int id) {
+    return const_cast<ControlState*>(static_cast<const HeadlessDialog*>(this)->reach(id));
+}
+
+const ControlState* HeadlessDialog::reachKind(int id, ControlKind kind) const {
+    const ControlState* c = reach(id);
+    return c && c->def.kind == kind ? c : nullptr;
+}
+
+ControlState* HeadlessDialog::reachKind(int id, ControlKind kind) {
+    return const_cast<ControlState*>(static_cast<const HeadlessDialog*>(this)->reachKind(id, kind));
+}
+
 const ControlState* HeadlessDialog::findKind(int id, ControlKind kind) const {
     const ControlState* c = find(id);
     return c != nullptr && c->def.kind == kind ? c : nullptr;
@@ -140,7 +159,7 @@ ControlType HeadlessDialog::controlType(int id) const {
 // Window text, state and focus
 
 std::string HeadlessDialog::text(int id) const {
-    const ControlState* c = find(id);
+    const ControlState* c = reach(id);
     if (c == nullptr) return {};
     if (c->def.comboDropList()) {
         const int selected = firstSelected(c->items);
@@ -151,14 +170,14 @@ std::string HeadlessDialog::text(int id) const {
 
 // A drop-down list has no edit field: setting its text changes nothing.
 void HeadlessDialog::setText(int id, std::string_view text) {
-    ControlState* c = find(id);
+    ControlState* c = reach(id);
     if (c == nullptr || c->def.comboDropList()) return;
     c->text = cText(text);
     c->selStart = c->selEnd = 0;
 }
 
 std::pair<int, int> HeadlessDialog::editSelection(int id) const {
-    const ControlState* c = findKind(id, ControlKind::Edit);
+    const ControlState* c = reachKind(id, ControlKind::Edit);
     if (c == nullptr) return {0, 0};
     const int length = static_cast<int>(c->text.size());
     return {std::clamp(c->selStart, 0, length), std::clamp(c->selEnd, 0, length)};
@@ -167,7 +186,7 @@ std::pair<int, int> HeadlessDialog::editSelection(int id) const {
 // As EM_SETSEL: -1 as the end means the end of the text; the two are
 // clamped to the text and put in order.
 void HeadlessDialog::setEditSelection(int id, int start, int end) {
-    ControlState* c = findKind(id, ControlKind::Edit);
+    ControlState* c = reachKind(id, ControlKind::Edit);
     if (c == nullptr) return;
     const int length = static_cast<int>(c->text.size());
     if (end < 0) end = length;
@@ -179,38 +198,38 @@ void HeadlessDialog::setEditSelection(int id, int start, int end) {
 }
 
 bool HeadlessDialog::isEnabled(int id) const {
-    const ControlState* c = find(id);
+    const ControlState* c = reach(id);
     return c != nullptr && c->enabled;
 }
 
 // Disabling the focused control leaves the dialog without focus.
 void HeadlessDialog::enable(int id, bool on) {
-    ControlState* c = find(id);
+    ControlState* c = reach(id);
     if (c == nullptr) return;
     c->enabled = on;
     if (!on && focus_ == id) focus_ = 0;
 }
 
 bool HeadlessDialog::isChecked(int id) const {
-    const ControlState* c = find(id);
+    const ControlState* c = reach(id);
     return c != nullptr && c->def.canCheck() && c->check == kChecked;
 }
 
 // BM_SETCHECK: only check boxes and radio buttons keep a state, and checking
 // a radio button does not uncheck the others (only a click does).
 void HeadlessDialog::setChecked(int id, bool on) {
-    ControlState* c = find(id);
+    ControlState* c = reach(id);
     if (c != nullptr && c->def.canCheck()) c->check = on ? kChecked : kUnchecked;
 }
 
 // A disabled control does not take the focus.
 void HeadlessDialog::setFocus(int id) {
-    const ControlState* c = find(id);
+    const ControlState* c = reach(id);
     if (c != nullptr && c->enabled) focus_ = id;
 }
 
 void HeadlessDialog::setRedraw(int id, bool on) {
-    ControlState* c = find(id);
+    ControlState* c = reach(id);
     if (c != nullptr) c->redraw = on;
 }
 
@@ -223,37 +242,37 @@ void HeadlessDialog::end(int result) {
 // List boxes
 
 int HeadlessDialog::listCount(int id) const {
-    const ControlState* c = findKind(id, ControlKind::ListBox);
+    const ControlState* c = reachKind(id, ControlKind::ListBox);
     return c == nullptr ? 0 : static_cast<int>(c->items.size());
 }
 
 std::string HeadlessDialog::listText(int id, int index) const {
-    const ControlState* c = findKind(id, ControlKind::ListBox);
+    const ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || !validIndex(c->items, index)) return {};
     return c->items[static_cast<std::size_t>(index)].text;
 }
 
 // LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
 int HeadlessDialog::listAdd(int id, std::string_view text, ListInsert how) {
-    ControlState* c = findKind(id, ControlKind::ListBox);
+    ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr) return kListError;
     if (c->items.size() >= listCapacity_) return kListNoSpace;
     return insertEntry(c->items, text, how == ListInsert::Sorted && c->def.listSorted());
 }
 
 void HeadlessDialog::listDelete(int id, int index) {
-    ControlState* c = findKind(id, ControlKind::ListBox);
+    ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c != nullptr && validIndex(c->items, index)) c->items.erase(c->items.begin() + index);
 }
 
 void HeadlessDialog::listClear(int id) {
-    ControlState* c = findKind(id, ControlKind::ListBox);
+    ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c != nullptr) c->items.clear();
 }
 
 // LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
 std::vector<int> HeadlessDialog::listSelection(int id) const {
-    const ControlState* c = findKind(id, ControlKind::ListBox);
+    const ControlState* c = reachKind(id, ControlKind::ListBox);
     std::vector<int> selected;
     if (c == nullptr) return selected;
     for (std::size_t i = 0; i < c->items.size(); ++i) {
@@ -266,7 +285,7 @@ std::vector<int> HeadlessDialog::listSelection(int id) const {
 // selecting makes the item the only selection; deselecting the selected item
 // (or -1) leaves none.
 void HeadlessDialog::listSelect(int id, int index, bool on) {
-    ControlState* c = findKind(id, ControlKind::ListBox);
+    ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr) return;
     std::vector<ListEntry>& items = c->items;
     if (c->def.listMulti()) {
@@ -282,7 +301,7 @@ void HeadlessDialog::listSelect(int id, int index, bool on) {
 // LB_SETCURSEL: ignored by multi-select list boxes; -1 clears; an index out
 // of range changes nothing.
 void HeadlessDialog::listSetCurrent(int id, int index) {
-    ControlState* c = findKind(id, ControlKind::ListBox);
+    ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || c->def.listMulti()) return;
     if (index == -1) selectAll(c->items, false);
     else if (validIndex(c->items, index)) selectOnly(c->items, index);
@@ -292,27 +311,27 @@ void HeadlessDialog::listSetCurrent(int id, int index) {
 // Combo boxes
 
 void HeadlessDialog::comboAdd(int id, std::string_view text) {
-    ControlState* c = findKind(id, ControlKind::ComboBox);
+    ControlState* c = reachKind(id, ControlKind::ComboBox);
     if (c != nullptr) insertEntry(c->items, text, c->def.comboSorted());
 }
 
 // CB_RESETCONTENT empties the list and the edit field.
 void HeadlessDialog::comboClear(int id) {
-    ControlState* c = findKind(id, ControlKind::ComboBox);
+    ControlState* c = reachKind(id, ControlKind::ComboBox);
     if (c == nullptr) return;
     c->items.clear();
     c->text.clear();
 }
 
 int HeadlessDialog::comboSelection(int id) const {
-    const ControlState* c = findKind(id, ControlKind::ComboBox);
+    const ControlState* c = reachKind(id, ControlKind::ComboBox);
     return c == nullptr ? -1 : firstSelected(c->items);
 }
 
 // CB_SETCURSEL copies the item into the edit field; -1 or an index out of
 // range clears both the selection and the edit field.
 void HeadlessDialog::comboSelect(int id, int index) {
-    ControlState* c = findKind(id, ControlKind::ComboBox);
+    ControlState* c = reachKind(id, ControlKind::ComboBox);
     if (c == nullptr) return;
     if (validIndex(c->items, index)) {
         selectOnly(c->items, index);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -107,6 +108,10 @@ public:
     bool ended() const { return ended_; }
     int result() const { return result_; }
 
+    // Strict mode: called with the id whenever the dialog's logic touches a
+    // control the template lacks (has() asks and is never reported).
+    void setOnMissingControl(std::function<void(int)> report) { onMissing_ = std::move(report); }
+
     // Most items a list box takes; past it listAdd answers kListNoSpace.
     void setListCapacity(std::size_t capacity) { listCapacity_ = capacity; }
 
@@ -121,8 +126,15 @@ private:
     bool ended_ = false;
     int result_ = 0;
 
+    std::function<void(int)> onMissing_;
+
     const ControlState* find(int id) const;
     ControlState* find(int id);
+    // find, reported in strict mode when the control is missing.
+    const ControlState* reach(int id) const;
+    ControlState* reach(int id);
+    const ControlState* reachKind(int id, ControlKind kind) const;
+    ControlState* reachKind(int id, ControlKind kind);
     ControlState* findKind(int id, ControlKind kind);
     const ControlState* findKind(int id, ControlKind kind) const;
     void checkAutoRadio(std::size_t index);

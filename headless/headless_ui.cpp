@@ -72,6 +72,7 @@ int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler
     const DialogTemplate* found = resources_.dialog(templateName);
     if (!found) return -1;
     DialogWindow window{std::make_unique<HeadlessDialog>(*found), &handler};
+    watchControls(*window.dialog);
     transcript_("dialog " + quote(window.dialog->caption()));
     stack_.push_back(Window{&window, nullptr, nullptr, nullptr});
     const int focus = handler.onInit(*window.dialog);
@@ -81,11 +82,20 @@ int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler
     return window.dialog->result();
 }
 
+void HeadlessUi::watchControls(HeadlessDialog& dialog) {
+    if (!strict_) return;
+    const std::string name = dialog.templateName();
+    dialog.setOnMissingControl([this, name](int id) {
+        transcript_("error " + quote("template " + name + " has no control " + std::to_string(id)));
+    });
+}
+
 DialogView* HeadlessUi::openModeless(WindowRef, std::string_view templateName, DialogHandler& handler) {
     const DialogTemplate* found = resources_.dialog(templateName);
     if (!found) return nullptr;
     auto window = std::make_unique<DialogWindow>();
     window->dialog = std::make_unique<HeadlessDialog>(*found);
+    watchControls(*window->dialog);
     window->handler = &handler;
     window->modeless = true;
     transcript_("dialog " + quote(window->dialog->caption()));

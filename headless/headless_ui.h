@@ -64,6 +64,9 @@ public:
 
     void setDriver(Driver driver) { driver_ = std::move(driver); }
     void setOwnerTitle(std::string title) { ownerTitle_ = std::move(title); }
+    // Strict: a dialog's logic touching a control its template lacks prints
+    // an error line instead of being ignored.
+    void setStrict(bool strict) { strict_ = strict; }
 
     // The window statements act on; none when nothing is open.
     std::optional<Window> top() const;
@@ -120,11 +123,13 @@ public:
 
 private:
     void pumpUntil(const std::function<bool()>& done);
+    void watchControls(HeadlessDialog& dialog);
 
     const ResourceSet& resources_;
     TranscriptSink transcript_;
     Driver driver_;
     std::string ownerTitle_;
+    bool strict_ = false;
     std::vector<Window> stack_;
     BitmapRef nextBitmap_ = 0x1000;
     std::vector<std::unique_ptr<DialogWindow>> modeless_;

@@ -78,6 +78,22 @@ TEST(HeadlessDialogList, SortedInsertionOrdersLikeAWindowsListBox) {
     EXPECT_EQ(d.listAdd(4, "AA", ListInsert::Append), 12);  // Append ignores LBS_SORT
 }
 
+// Strict mode reports every touch of a control the template lacks, and
+// nothing for asking whether it is there.
+TEST(HeadlessDialogStrict, TouchingAMissingControlIsReported) {
+    HeadlessDialog d = openTest();
+    std::vector<int> missing;
+    d.setOnMissingControl([&](int id) { missing.push_back(id); });
+    EXPECT_FALSE(d.has(999));
+    d.setText(42, "fine");
+    d.setText(999, "x");
+    d.enable(998, false);
+    d.listAdd(997, "A", ListInsert::Append);
+    (void)d.isChecked(996);
+    (void)d.listAdd(42, "A", ListInsert::Append);  // there, but not a list: not reported
+    EXPECT_EQ(missing, (std::vector<int>{999, 998, 997, 996}));
+}
+
 TEST(HeadlessDialogList, CompareListText) {
     EXPECT_EQ(compareListText("abc", "ABC"), 0);
     EXPECT_LT(compareListText("ab", "abc"), 0);

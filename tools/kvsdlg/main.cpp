@@ -1,7 +1,7 @@
 // kvsdlg: runs scenario files against the dialog library and prints their
 // transcripts.
 //
-//   kvsdlg run [--backend=headless|wine] FILE.scn...
+//   kvsdlg run [--backend=headless|wine] [--strict] FILE.scn...
 //   kvsdlg check [--backend=...] FILE.scn...    compares each transcript with FILE.out
 //   kvsdlg update [--backend=...] FILE.scn...   writes each transcript to FILE.out
 //
@@ -21,7 +21,8 @@
 namespace {
 
 int usage() {
-    std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] FILE.scn...\n";
+    std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] [--strict] FILE.scn...\n"
+                 "  --strict (headless only): a dialog touching a control its template lacks is an error line\n";
     return 2;
 }
 
@@ -52,8 +53,13 @@ int main(int argc, char** argv) {
     if (command != "run" && command != "check" && command != "update") return usage();
     std::vector<std::string> files;
     bool wine = false;
+    bool strict = false;
     for (int i = 2; i < argc; ++i) {
         const std::string argument = argv[i];
+        if (argument == "--strict") {
+            strict = true;
+            continue;
+        }
         if (argument.rfind("--backend=", 0) == 0) {
             if (argument != "--backend=headless" && argument != "--backend=wine") return usage();
             wine = argument == "--backend=wine";
@@ -61,6 +67,8 @@ int main(int argc, char** argv) {
         }
         files.push_back(argument);
     }
+
+    if (strict && wine) return usage();  // the real windows cannot tell what the logic touched
 
     // Under Wine every file runs in one process, before any is compared.
     std::vector<std::string> wineTranscripts;
@@ -80,6 +88,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     kvs::headless::HeadlessRunner runner(resources);
+    runner.setStrict(strict);
 
     int passed = 0, failed = 0;
     for (std::size_t i = 0; i < files.size(); ++i) {

@@ -1,9 +1,12 @@
 #include "tools/scenario/engine.h"
 
 #include <algorithm>
+#include <string_view>
+#include <unordered_map>
 
 #include "resources/list_transfer.h"
 #include "tools/scenario/call_statements.h"
+#include "tools/scenario/control_names.h"
 #include "tools/scenario/transcript.h"
 
 namespace kvs::scenario {
@@ -18,20 +21,21 @@ const ListTransferRow* rowForTarget(int targetId) {
     return nullptr;
 }
 
-// Indices of the names in a list, or nothing when one is missing.
+// Indices of the names in a list (the first item of each text), or nothing
+// when one is missing. One pass over the items, so selecting N names of a
+// long list stays linear.
 std::optional<std::vector<int>> indicesOf(const std::optional<ControlInfo>& list,
                                           const std::vector<std::string>& names) {
     if (!list || list->kind != ControlKind::ListBox) return std::nullopt;
+    std::unordered_map<std::string_view, int> firstIndex;
+    firstIndex.reserve(list->items.size());
+    for (std::size_t i = 0; i < list->items.size(); ++i) firstIndex.emplace(list->items[i], static_cast<int>(i));
     std::vector<int> indices;
+    indices.reserve(names.size());
     for (const std::string& name : names) {
-        bool found = false;
-        for (std::size_t i = 0; i < list->items.size() && !found; ++i) {
-            if (list->items[i] == name) {
-                indices.push_back(static_cast<int>(i));
-                found = true;
-            }
-        }
-        if (!found) return std::nullopt;
+        const auto it = firstIndex.find(name);
+        if (it == firstIndex.end()) return std::nullopt;
+        indices.push_back(it->second);
     }
     return indices;
 }
@@ -170,9 +174,13 @@ bool Engine::setup(const Statement& s) {
     return true;
 }
 
+// A number, an IDC_ name of the id headers, or a quoted label.
 int Engine::controlId(const Token& token) {
     if (!token.quoted) {
-        const auto id = toNumber(token.text);
+        std::optional<long> id = toNumber(token.text);
+        if (!id) {
+            if (const auto named = controlIdNamed(token.text)) id = *named;
+        }
         return id && backend_.control(static_cast<int>(*id)) ? static_cast<int>(*id) : 0;
     }
     return backend_.controlByLabel(token.text).value_or(0);
