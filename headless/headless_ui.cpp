@@ -73,7 +73,7 @@ int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler
     if (!found) return -1;
     DialogWindow window{std::make_unique<HeadlessDialog>(*found), &handler};
     watchControls(*window.dialog);
-    transcript_("dialog " + quote(window.dialog->caption()));
+    transcript_(scenario::dialogLine(window.dialog->caption()));
     stack_.push_back(Window{&window, nullptr, nullptr, nullptr});
     const int focus = handler.onInit(*window.dialog);
     (void)focus;
@@ -86,7 +86,7 @@ void HeadlessUi::watchControls(HeadlessDialog& dialog) {
     if (!strict_) return;
     const std::string name = dialog.templateName();
     dialog.setOnMissingControl([this, name](int id) {
-        transcript_("error " + quote("template " + name + " has no control " + std::to_string(id)));
+        transcript_(scenario::errorLine("template " + name + " has no control " + std::to_string(id)));
     });
 }
 
@@ -98,7 +98,7 @@ DialogView* HeadlessUi::openModeless(WindowRef, std::string_view templateName, D
     watchControls(*window->dialog);
     window->handler = &handler;
     window->modeless = true;
-    transcript_("dialog " + quote(window->dialog->caption()));
+    transcript_(scenario::dialogLine(window->dialog->caption()));
     DialogWindow* shown = window.get();
     modeless_.push_back(std::move(window));
     stack_.push_back(Window{shown, nullptr, nullptr});
@@ -160,7 +160,7 @@ std::intptr_t HeadlessUi::userRequest(DialogView& view, int code, std::intptr_t 
 int HeadlessUi::messageBox(const MessageRequest& request) {
     MessageWindow window{request, 0};
     const std::string caption = request.caption ? *request.caption : kDefaultMessageCaption;
-    transcript_("message " + quote(caption) + " " + iconName(request.icon) + " " + quote(request.text));
+    transcript_(scenario::messageLine(caption, iconName(request.icon), request.text));
     stack_.push_back(Window{nullptr, &window, nullptr, nullptr});
     pumpUntil([&] { return window.answer != 0; });
     stack_.pop_back();
@@ -169,8 +169,7 @@ int HeadlessUi::messageBox(const MessageRequest& request) {
 
 std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
     ChooserWindow window{request, false, std::nullopt};
-    transcript_(std::string("chooser ") + (request.save ? "save " : "open ") + quote(request.title) + " " +
-                quote(shownName(request.initialName)));
+    transcript_(scenario::chooserLine(request.save, request.title, shownName(request.initialName)));
     stack_.push_back(Window{nullptr, nullptr, &window, nullptr});
     pumpUntil([&] { return window.answered; });
     stack_.pop_back();
@@ -181,14 +180,12 @@ std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
 }
 
 void HeadlessUi::help(const HelpRequest& request) {
-    std::string line = "help " + quote(request.file);
     switch (request.kind) {
-    case HelpKind::Context: line += " context " + std::to_string(request.context); break;
-    case HelpKind::Contents: line += " contents"; break;
-    case HelpKind::Key: line += " key " + quote(request.key); break;
-    case HelpKind::HelpOnHelp: line += " helponhelp"; break;
+    case HelpKind::Context: transcript_(scenario::helpContextLine(request.file, request.context)); break;
+    case HelpKind::Contents: transcript_(scenario::helpContentsLine(request.file)); break;
+    case HelpKind::Key: transcript_(scenario::helpKeyLine(request.file, request.key)); break;
+    case HelpKind::HelpOnHelp: transcript_(scenario::helpOnHelpLine(request.file)); break;
     }
-    transcript_(line);
 }
 
 WindowRef HeadlessUi::focusWindow() {
@@ -257,8 +254,8 @@ std::optional<KvsLogFont> HeadlessUi::chooseFont(const FontRequest& request) {
     const std::string face(initial.faceName, strnlen(initial.faceName, sizeof initial.faceName));
     const int height = initial.height < 0 ? -initial.height : initial.height;
     const int points = (height * 72 + kPixelsPerInch / 2) / kPixelsPerInch;
-    transcript_("fontchooser " + quote(kFontChooserTitle) + " " + quote(face) + " " + std::to_string(points) + " " +
-                quote(request.okText.empty() ? "OK" : request.okText));
+    transcript_(scenario::fontChooserLine(kFontChooserTitle, face, std::to_string(points),
+                                          request.okText.empty() ? "OK" : request.okText));
     stack_.push_back(Window{nullptr, nullptr, nullptr, &window});
     pumpUntil([&] { return window.answered; });
     stack_.pop_back();

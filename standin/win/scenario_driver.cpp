@@ -99,7 +99,7 @@ void ScenarioRun::onTick(HWND top) {
     if (!waitingSince_) {
         waitingSince_ = now;
     } else if (now - waitingSince_ > kStuckMilliseconds) {
-        emit("error " + scenario::quote("stuck: no window to act on for " +
+        emit(scenario::errorLine("stuck: no window to act on for " +
                                         std::to_string(kStuckMilliseconds / 1000) + " s"));
         std::fclose(out_);
         ExitProcess(3);
@@ -110,20 +110,20 @@ bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
     emit("#scenario " + std::to_string(number) + " " + path);
     const std::optional<std::string> source = scenario::readTextFile(path);
     if (!source) {
-        emit("error " + scenario::quote("cannot read " + path));
+        emit(scenario::errorLine("cannot read " + path));
         return false;
     }
     resetHostAndKernel();
     std::string error;
     if (!library_.load(error)) {
-        emit("error " + scenario::quote(error));
+        emit(scenario::errorLine(error));
         return false;
     }
     const bool watching = help_.open([this](const std::string& line) { emit(line); }) &&
                           watch_.start(library_.module(), [this](const std::string& line) { emit(line); },
                                        [this](HWND top) { onTick(top); });
     if (!watching) {
-        emit("error " + scenario::quote("cannot watch the library's windows"));
+        emit(scenario::errorLine("cannot watch the library's windows"));
         library_.unload();
         return false;
     }
@@ -140,7 +140,7 @@ bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
     library_.unload();
     // Still mapped, the next file would meet this file's remembered settings.
     const bool unloaded = GetModuleHandleA("kvs_dlg.dll") == nullptr;
-    if (!unloaded) emit("error " + scenario::quote("kvs_dlg.dll stayed loaded after the scenario"));
+    if (!unloaded) emit(scenario::errorLine("kvs_dlg.dll stayed loaded after the scenario"));
     HostState::instance().setSink(nullptr);
     return unloaded;
 }

@@ -69,7 +69,7 @@ void Tour::onTick(HWND top) {
     if (pictured && !shot_) {
         if (++settle_ < kSettleTicks) return;
         const std::string path = outDir_ + "\\" + shotName_ + ".bmp";
-        if (!saveWindowBitmap(top, path)) emit("error " + scenario::quote("cannot save " + path));
+        if (!saveWindowBitmap(top, path)) emit(scenario::errorLine("cannot save " + path));
         shot_ = true;
     }
     backend_.dismissTop();
@@ -101,7 +101,7 @@ void Tour::pictureOfUnlisted() {
         if (!FindResourceA(library_.module(), unlisted.templateName, RT_DIALOG)) continue;
         const HWND dialog = CreateDialogParamA(library_.module(), unlisted.templateName, owner_, pictureProcedure, 0);
         if (!dialog) {
-            emit("error " + scenario::quote(std::string("cannot create ") + unlisted.templateName));
+            emit(scenario::errorLine(std::string("cannot create ") + unlisted.templateName));
             continue;
         }
         ShowWindow(dialog, SW_SHOW);
@@ -109,7 +109,7 @@ void Tour::pictureOfUnlisted() {
         MSG message;
         while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
         const std::string path = outDir_ + "\\" + unlisted.shotName + ".bmp";
-        if (!saveWindowBitmap(dialog, path)) emit("error " + scenario::quote("cannot save " + path));
+        if (!saveWindowBitmap(dialog, path)) emit(scenario::errorLine("cannot save " + path));
         DestroyWindow(dialog);
     }
 }
@@ -124,7 +124,7 @@ void Tour::showProgress() {
     const HWND window = topDialogWindow();
     if (window && roleOf(window, library_.module()) == scenario::WindowKind::Dialog) {
         const std::string path = outDir_ + "\\progress-ProcessBox.bmp";
-        if (!saveWindowBitmap(window, path)) emit("error " + scenario::quote("cannot save " + path));
+        if (!saveWindowBitmap(window, path)) emit(scenario::errorLine("cannot save " + path));
     }
     e.clearSamplingDialog();
 }
@@ -140,7 +140,7 @@ void Tour::pictureOfPictures() {
         MSG message;
         while (PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageA(&message);
         const std::string path = outDir_ + "\\pictures-symbols-lines-axes.bmp";
-        if (!saveWindowBitmap(board, path)) emit("error " + scenario::quote("cannot save " + path));
+        if (!saveWindowBitmap(board, path)) emit(scenario::errorLine("cannot save " + path));
         closePictureBoard(board);
     }
     e.deleteSymbolBitmapsEx();
@@ -149,7 +149,7 @@ void Tour::pictureOfPictures() {
 int Tour::run() {
     std::string error;
     if (!library_.load(error)) {
-        emit("error " + scenario::quote(error));
+        emit(scenario::errorLine(error));
         return 1;
     }
     HostState::instance().setSink([this](const std::string& line) { emit(line); });

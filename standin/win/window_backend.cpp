@@ -20,8 +20,23 @@ void WindowBackend::setVariables(const std::vector<std::string>& names) {
     KernelState::instance().setVariables(names);
 }
 
+namespace {
+
+// Creates every folder on the way to path (its drive aside), so a declared
+// file exists under Wine wherever a scenario puts it, as it does headlessly.
+void makeFoldersOf(const std::string& path) {
+    for (std::size_t at = path.find_first_of("\\/"); at != std::string::npos; at = path.find_first_of("\\/", at + 1)) {
+        const std::string folder = path.substr(0, at);
+        if (folder.empty() || folder.back() == ':') continue;
+        CreateDirectoryA(folder.c_str(), nullptr);  // fails harmlessly where it exists
+    }
+}
+
+}  // namespace
+
 void WindowBackend::setFile(const std::string& path, const std::vector<std::string>& names) {
     StandinBackend::setFile(path, names);
+    makeFoldersOf(path);
     const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
 }

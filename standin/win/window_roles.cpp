@@ -83,10 +83,9 @@ std::string chooserName(HWND chooser) {
 }
 
 std::string fontChooserLine(HWND chooser) {
-    return "fontchooser " + scenario::quote(windowText(chooser)) + " " +
-           scenario::quote(windowText(GetDlgItem(chooser, kFontFaceCombo))) + " " +
-           windowText(GetDlgItem(chooser, kFontSizeCombo)) + " " +
-           scenario::quote(labelText(windowText(GetDlgItem(chooser, IDOK))));
+    return scenario::fontChooserLine(windowText(chooser), windowText(GetDlgItem(chooser, kFontFaceCombo)),
+                                     windowText(GetDlgItem(chooser, kFontSizeCombo)),
+                                     labelText(windowText(GetDlgItem(chooser, IDOK))));
 }
 
 }  // namespace kvs::standin

@@ -43,7 +43,7 @@ LRESULT CALLBACK WindowWatch::beforeProcedure(int code, WPARAM wParam, LPARAM lP
         current->opening_.push_back(Opening{call->hwnd, GetTickCount()});
         const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrA(call->hwnd, GWLP_HINSTANCE));
         if (current->library_ && instance == current->library_ && current->sink_)
-            current->sink_("dialog " + quote(windowText(call->hwnd)));
+            current->sink_(scenario::dialogLine(windowText(call->hwnd)));
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -54,13 +54,11 @@ LRESULT CALLBACK WindowWatch::afterProcedure(int code, WPARAM wParam, LPARAM lPa
         const HWND window = call->hwnd;
         switch (roleOf(window, current->library_)) {
         case WindowKind::Message:
-            current->sink_("message " + quote(windowText(window)) + " " + messageIcon(window) + " " +
-                           quote(messageText(window)));
+            current->sink_(scenario::messageLine(windowText(window), messageIcon(window), messageText(window)));
             break;
         case WindowKind::FontChooser: current->sink_(fontChooserLine(window)); break;
         case WindowKind::Chooser:
-            current->sink_(std::string("chooser ") + (chooserSaves(window) ? "save " : "open ") +
-                           quote(windowText(window)) + " " + quote(chooserName(window)));
+            current->sink_(scenario::chooserLine(chooserSaves(window), windowText(window), chooserName(window)));
             break;
         default: break;
         }

@@ -35,20 +35,17 @@ std::optional<std::string> winHelpLine(const unsigned char* block, std::size_t s
     const std::size_t fileOffset = word(block + 12);
     const std::string file = fileOffset >= kHeaderSize ? textAt(block, size, fileOffset) : std::string();
 
-    std::string line = "help " + scenario::quote(file);
     switch (command) {
-    case kHelpContext: line += " context " + std::to_string(dword(block + 4)); break;
-    case kHelpContents: line += " contents"; break;
-    case kHelpOnHelp: line += " helponhelp"; break;
+    case kHelpContext: return scenario::helpContextLine(file, dword(block + 4));
+    case kHelpContents: return scenario::helpContentsLine(file);
+    case kHelpOnHelp: return scenario::helpOnHelpLine(file);
     case kHelpKey:
     case kHelpPartialKey: {
         const std::size_t keyOffset = word(block + 14);
-        line += " key " + scenario::quote(keyOffset >= kHeaderSize ? textAt(block, size, keyOffset) : "");
-        break;
+        return scenario::helpKeyLine(file, keyOffset >= kHeaderSize ? textAt(block, size, keyOffset) : "");
     }
-    default: line += " command " + std::to_string(command); break;
+    default: return "help " + scenario::quote(file) + " command " + std::to_string(command);  // a request the library never makes
     }
-    return line;
 }
 
 }  // namespace kvs::standin

@@ -70,14 +70,14 @@ Engine::Engine(Backend& backend, Emit emit) : backend_(backend), emit_(std::move
 
 void Engine::load(std::string_view source) {
     ParseResult parsed = parse(source);
-    for (const std::string& error : parsed.errors) emit_("error " + quote(error));
+    for (const std::string& error : parsed.errors) emit_(errorLine(error));
     statements_ = std::move(parsed.statements);
     next_ = 0;
     helpFile_ = kDefaultHelpFile;
 }
 
 void Engine::fail(const Statement& statement, const std::string& message) {
-    emit_("error " + quote("line " + std::to_string(statement.line) + ": " + message));
+    emit_(errorLine("line " + std::to_string(statement.line) + ": " + message));
 }
 
 std::string Engine::describeTop() {
@@ -92,7 +92,7 @@ std::string Engine::describeTop() {
 }
 
 void Engine::windowLeftOpen() {
-    emit_("error " + quote("the scenario ends with the " + describeTop() + " open"));
+    emit_(errorLine("the scenario ends with the " + describeTop() + " open"));
     backend_.dismissTop();
 }
 

@@ -32,4 +32,30 @@ std::string quote(std::string_view text) {
 
 std::string quoteOrNull(const char* text) { return text ? quote(text) : std::string("null"); }
 
+std::string dialogLine(std::string_view caption) { return "dialog " + quote(caption); }
+
+std::string messageLine(std::string_view caption, std::string_view icon, std::string_view text) {
+    return "message " + quote(caption) + " " + std::string(icon) + " " + quote(text);
+}
+
+std::string chooserLine(bool save, std::string_view title, std::string_view shownName) {
+    return std::string("chooser ") + (save ? "save " : "open ") + quote(title) + " " + quote(shownName);
+}
+
+std::string fontChooserLine(std::string_view title, std::string_view face, std::string_view points,
+                            std::string_view okText) {
+    return "fontchooser " + quote(title) + " " + quote(face) + " " + std::string(points) + " " + quote(okText);
+}
+
+std::string helpContextLine(std::string_view file, unsigned long context) {
+    return "help " + quote(file) + " context " + std::to_string(context);
+}
+std::string helpContentsLine(std::string_view file) { return "help " + quote(file) + " contents"; }
+std::string helpKeyLine(std::string_view file, std::string_view key) {
+    return "help " + quote(file) + " key " + quote(key);
+}
+std::string helpOnHelpLine(std::string_view file) { return "help " + quote(file) + " helponhelp"; }
+
+std::string errorLine(std::string_view what) { return "error " + quote(what); }
+
 }  // namespace kvs::scenario
