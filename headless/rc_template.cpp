@@ -427,7 +427,11 @@ private:
 
     const ResourceFiles& files_;
     TokenStream out_;
-    std::map<std::string, std::vector<Token>> macros_;
+    struct Macro {
+        std::vector<Token> body;
+        std::optional<std::vector<std::string>> parameters;  // function-like when present
+    };
+    std::map<std::string, Macro> macros_;
     std::set<std::string> included_;
     int lastLineOfMain_ = 1;
 
@@ -447,7 +451,7 @@ private:
         while (tokens[i].kind != Tok::End) {
             const Line line = takeLine(tokens, i);
             if (!line.empty() && isPunct(line[0], "#")) directive(line, stack, depth);
-            else if (active(stack)) for (const Token& t : line) expand(t, out_.tokens);
+            else if (active(stack)) expandLine(line, out_.tokens);
         }
         if (!stack.empty()) fail(name, stack.back().line, "#if without #endif");
         if (depth == 0) lastLineOfMain_ = tokens[i].line;
@@ -530,7 +534,8 @@ private:
             if (line[i].kind == Tok::Name && line[i].text == "defined") {
                 expr.push_back(definedOperand(line, i));
             } else {
-                expand(line[i], expr);
+                std::vector<std::string> expanding;
+                expandTokens({line[i]}, line[i], expr, expanding, true);
             }
         }
         for (Token& t : expr) {
@@ -587,36 +592,89 @@ private:
         return std::nullopt;
     }
 
+    // "#define NAME body" or "#define NAME(a, b) body" (the parenthesis
+    // right after the name).
     void define(const Line& line) {
         const std::string name = requireName(line, "#define");
+        Macro macro;
+        std::size_t bodyAt = 3;
         if (line.size() > 3 && isPunct(line[3], "(") && !line[3].spaceBefore) {
-            error(line[2], "function-like macro '" + name + "' is not supported");
+            macro.parameters.emplace();
+            std::size_t i = 4;
+            while (i < line.size() && !isPunct(line[i], ")")) {
+                if (line[i].kind != Tok::Name) error(line[i], "a macro parameter must be a name");
+                macro.parameters->push_back(line[i].text);
+                ++i;
+                if (i < line.size() && isPunct(line[i], ",")) ++i;
+            }
+            if (i >= line.size()) error(line[2], "macro '" + name + "' lacks ')'");
+            bodyAt = i + 1;
         }
-        macros_[name] = std::vector<Token>(line.begin() + 3, line.end());
+        macro.body.assign(line.begin() + static_cast<std::ptrdiff_t>(bodyAt), line.end());
+        macros_[name] = std::move(macro);
     }
 
-    void expand(const Token& t, std::vector<Token>& out) const {
+    void expandLine(const Line& line, std::vector<Token>& out) const {
         std::vector<std::string> expanding;
-        expandAt(t, t, out, expanding);
+        expandTokens(line, line.empty() ? Token{} : line.front(), out, expanding, true);
     }
 
     // Replaces macro names recursively; a macro is not expanded inside its own
-    // expansion. Expanded tokens take the position of the use.
-    void expandAt(const Token& t, const Token& site, std::vector<Token>& out,
-                  std::vector<std::string>& expanding) const {
-        const auto macro = t.kind == Tok::Name ? macros_.find(t.text) : macros_.end();
-        if (macro != macros_.end() &&
-            std::find(expanding.begin(), expanding.end(), t.text) == expanding.end()) {
-            if (expanding.size() >= kMaxMacroDepth) error(site, "macros nested too deeply");
-            expanding.push_back(t.text);
-            for (const Token& m : macro->second) expandAt(m, site, out, expanding);
-            expanding.pop_back();
-            return;
+    // expansion. A function-like macro takes the parenthesised arguments
+    // after its name, each a run of tokens up to a comma outside inner
+    // parentheses. Expanded tokens take the position of the use.
+    void expandTokens(const std::vector<Token>& tokens, const Token& lineSite, std::vector<Token>& out,
+                      std::vector<std::string>& expanding, bool ownSites) const {
+        for (std::size_t i = 0; i < tokens.size(); ++i) {
+            const Token& t = tokens[i];
+            const Token& site = ownSites ? t : lineSite;
+            const auto macro = t.kind == Tok::Name ? macros_.find(t.text) : macros_.end();
+            const bool expandable = macro != macros_.end() &&
+                                    std::find(expanding.begin(), expanding.end(), t.text) == expanding.end();
+            if (expandable && !macro->second.parameters) {
+                if (expanding.size() >= kMaxMacroDepth) error(site, "macros nested too deeply");
+                expanding.push_back(t.text);
+                expandTokens(macro->second.body, site, out, expanding, false);
+                expanding.pop_back();
+                continue;
+            }
+            if (expandable && i + 1 < tokens.size() && isPunct(tokens[i + 1], "(")) {
+                if (expanding.size() >= kMaxMacroDepth) error(site, "macros nested too deeply");
+                std::vector<std::vector<Token>> arguments(1);
+                int depth = 0;
+                std::size_t j = i + 2;
+                for (; j < tokens.size(); ++j) {
+                    if (isPunct(tokens[j], "(")) ++depth;
+                    if (isPunct(tokens[j], ")") && depth-- == 0) break;
+                    if (depth == 0 && isPunct(tokens[j], ",")) arguments.emplace_back();
+                    else arguments.back().push_back(tokens[j]);
+                }
+                if (j >= tokens.size()) error(t, "macro '" + t.text + "' used without ')'");
+                const std::vector<std::string>& parameters = *macro->second.parameters;
+                if (parameters.empty() && arguments.size() == 1 && arguments[0].empty()) arguments.clear();
+                if (arguments.size() != parameters.size())
+                    error(t, "macro '" + t.text + "' takes " + std::to_string(parameters.size()) + " arguments");
+                std::vector<Token> substituted;
+                for (const Token& b : macro->second.body) {
+                    const auto p = b.kind == Tok::Name ? std::find(parameters.begin(), parameters.end(), b.text)
+                                                       : parameters.end();
+                    if (p == parameters.end()) substituted.push_back(b);
+                    else {
+                        const auto& argument = arguments[static_cast<std::size_t>(p - parameters.begin())];
+                        substituted.insert(substituted.end(), argument.begin(), argument.end());
+                    }
+                }
+                expanding.push_back(t.text);
+                expandTokens(substituted, site, out, expanding, false);
+                expanding.pop_back();
+                i = j;
+                continue;
+            }
+            if (out.size() >= kMaxTokens) error(site, "macro expansion too large");
+            out.push_back(t);
+            out.back().file = site.file;
+            out.back().line = site.line;
         }
-        if (out.size() >= kMaxTokens) error(site, "macro expansion too large");
-        out.push_back(t);
-        out.back().file = site.file;
-        out.back().line = site.line;
     }
 };
 

@@ -77,7 +77,7 @@ TEST(RcTemplateResources, SortTemplateHasItsControls) {
     EXPECT_TRUE(byId(*sort, 10).listMulti());
 
     const ControlTemplate& add = byId(*sort, 6);
-    EXPECT_EQ(add.text, " Add-->");
+    EXPECT_EQ(add.text, " &Add-->");
     EXPECT_TRUE(add.isPushButton());
     EXPECT_TRUE(add.disabled());
     EXPECT_TRUE(add.tabStop());
@@ -171,6 +171,35 @@ END
     EXPECT_EQ(d.controls[2].id, 36);
     EXPECT_EQ(d.controls[3].id, 7);
     EXPECT_NE(set.menu("x"), nullptr);
+}
+
+// Function-like macros: arguments split at commas outside parentheses, a
+// body of several statements on continued lines, a macro within a macro, and
+// a name followed by no parenthesis left as it is.
+TEST(RcTemplatePreprocessor, FunctionLikeMacros) {
+    const ResourceSet set = parse(R"(#include "windows_styles.h"
+#define DSTYLE DS_MODALFRAME | WS_POPUP
+#define AT(x, y) x, y
+#define BUTTONS(x, y) \
+    DEFPUSHBUTTON "&OK", IDOK, AT(x, y), 50, 14 \
+    PUSHBUTTON "&Help", 12, AT(x, (y) + 18), 50, 14
+#define NOARGS() 7
+D DIALOGEX 0, 0, 100, 50
+STYLE DSTYLE
+BEGIN
+    BUTTONS(40, 3)
+    LTEXT "n", NOARGS(), 0, 0, 1, 1
+END
+)");
+    const DialogTemplate& d = *set.dialog("D");
+    ASSERT_EQ(d.controls.size(), 3u);
+    EXPECT_EQ(d.style & 0x80u, 0x80u);
+    EXPECT_EQ(d.controls[0].text, "&OK");
+    EXPECT_EQ(d.controls[0].x, 40);
+    EXPECT_EQ(d.controls[0].y, 3);
+    EXPECT_EQ(d.controls[1].id, 12);
+    EXPECT_EQ(d.controls[1].y, 21);
+    EXPECT_EQ(d.controls[2].id, 7);
 }
 
 TEST(RcTemplatePreprocessor, CommentsAndStrings) {
@@ -389,7 +418,10 @@ TEST(RcTemplateErrors, ReportFileAndLine) {
         {"#if 1\n#else\n#else\n#endif\n", "t.rc:3: #else without #if"},
         {"\n#include \"missing.h\"\n", "t.rc:2: cannot open include file 'missing.h'"},
         {"#include \"bad.h\"\n", "bad.h:2: unknown directive 'frobnicate'"},
-        {"#define F(x) x\n", "t.rc:1: function-like macro 'F'"},
+        {"#define F(x, y) x\nD DIALOGEX F(1), 0, 1, 1\n", "t.rc:2: macro 'F' takes 2 arguments"},
+        {"#define F(x) x\nD DIALOGEX F(1, 0, 1, 1\n", "t.rc:2: macro 'F' used without ')'"},
+        {"#define F(x\n", "t.rc:1: macro 'F' lacks ')'"},
+        {"#define F(1) x\n", "t.rc:1: a macro parameter must be a name"},
         {"#if 1/0\n#endif\n", "t.rc:1: division by zero"},
         {"#define A A\nD DIALOGEX A, 0, 1, 1\n", "t.rc:2: unknown name 'A'"},
         {"D DIALOGEX 0, 0, 1, 1\nBEGIN\nEND\nd DIALOG 0, 0, 1, 1\nBEGIN\nEND\n", "t.rc:4: dialog 'd' defined twice"},

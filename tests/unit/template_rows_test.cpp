@@ -1,0 +1,91 @@
+// Every dialog row the library installs names a template that the resource
+// scripts define, with the row's caption; a row without a behaviour is a
+// dialog of a family not written yet and is only counted.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <string>
+#include <vector>
+
+#include "core/dispatch_table.h"
+#include "families/library.h"
+#include "headless/embedded_resources.h"
+#include "headless/rc_template.h"
+
+namespace {
+
+const kvs::headless::ResourceSet& resources() {
+    static const kvs::headless::ResourceSet set = [] {
+        kvs::headless::ResourceSet s;
+        s.load(kvs::headless::embeddedResources());
+        return s;
+    }();
+    return set;
+}
+
+TEST(TemplateRows, EveryWrittenDialogHasItsTemplateAndCaption) {
+    kvs::installLibraryFamilies();
+    int written = 0, notYetWritten = 0;
+    for (const kvs::DispatchRow& row : kvs::dialogRows()) {
+        if (row.launch == kvs::Launch::Special) continue;
+        if (!row.behaviour) {
+            ++notYetWritten;
+            continue;
+        }
+        ++written;
+        ASSERT_NE(row.templateName, nullptr) << row.id;
+        const kvs::headless::DialogTemplate* dialog = resources().dialog(row.templateName);
+        ASSERT_NE(dialog, nullptr) << row.id << " " << row.templateName;
+        EXPECT_EQ(dialog->caption, row.caption) << row.id << " " << row.templateName;
+    }
+    EXPECT_GE(written, 24);
+    RecordProperty("rows without a dialog yet", notYetWritten);
+}
+
+// The letter after the single '&' of a text, lower-cased; 0 for none.
+char mnemonicOf(const std::string& text) {
+    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != '&') continue;
+        if (text[i + 1] == '&') {
+            ++i;
+            continue;
+        }
+        return static_cast<char>(std::tolower(static_cast<unsigned char>(text[i + 1])));
+    }
+    return 0;
+}
+
+// Every label and button of a written dialog carries a mnemonic of its own,
+// so a user reaches each control from the keyboard. OK and Cancel answer
+// Enter and Escape, group boxes take no focus, a text without a letter or a
+// digit ("=") has nothing to mark, and the catalogue's "Add" 153 comes third
+// after two other "Add" buttons and is reached by Tab or a double click.
+TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
+    kvs::installLibraryFamilies();
+    std::vector<std::string> faults;
+    for (const kvs::DispatchRow& row : kvs::dialogRows()) {
+        if (!row.behaviour || !row.templateName) continue;
+        const kvs::headless::DialogTemplate* dialog = resources().dialog(row.templateName);
+        if (!dialog) continue;
+        std::string taken;
+        for (const auto& control : dialog->controls) {
+            const bool button = control.kind == kvs::headless::ControlKind::Button;
+            if (!button && control.kind != kvs::headless::ControlKind::Static) continue;
+            const bool groupBox = button && (control.style & 0x0Fu) == 0x07u;
+            const bool noLetter = std::none_of(control.text.begin(), control.text.end(),
+                                               [](char c) { return std::isalnum(static_cast<unsigned char>(c)); });
+            if (control.id == 1 || control.id == 2 || groupBox || noLetter || control.id == 153) continue;
+            const char letter = mnemonicOf(control.text);
+            const std::string where = std::string(row.templateName) + ": \"" + control.text + "\"";
+            if (!letter) faults.push_back(where + " has no mnemonic");
+            else if (taken.find(letter) != std::string::npos) faults.push_back(where + " repeats '" + letter + "'");
+            else taken += letter;
+        }
+    }
+    std::string all;
+    for (const std::string& fault : faults) all += "\n  " + fault;
+    EXPECT_TRUE(faults.empty()) << all;
+}
+
+}  // namespace
