@@ -7,12 +7,15 @@
 
 extern "C" int32_t KVS_CALL GetDialogList(KvsDialogEntry* entries, int32_t capacity) {
     return kvs::guardedExport(0, [&] {
-        const auto rows = kvs::dispatchTable();
-        std::int32_t written = 0;
-        for (const kvs::DispatchRow& row : rows) {
-            if (!entries || written >= capacity) break;
-            entries[written++] = {row.id, static_cast<std::uint16_t>(row.family), row.caption, row.templateName};
+        // Rows whose dialog is not written yet are left out: StartDialog
+        // reaches them, but they show nothing a user could work with.
+        std::int32_t served = 0;
+        for (const kvs::DispatchRow& row : kvs::dispatchTable()) {
+            if (!row.behaviour && !row.special) continue;
+            if (entries && served < capacity)
+                entries[served] = {row.id, static_cast<std::uint16_t>(row.family), row.caption, row.templateName};
+            ++served;
         }
-        return static_cast<std::int32_t>(rows.size());
+        return served;
     });
 }

@@ -62,6 +62,7 @@ const scenario::LibraryExports& HeadlessBackend::exports() {
         e.loadSymbolBitmapsEx = &LoadSymbolBitmapsEx;
         e.deleteSymbolBitmapsEx = &DeleteSymbolBitmapsEx;
         e.getDialogList = &GetDialogList;
+        e.getLibraryVersion = &GetLibraryVersion;
         e.kvgFont = &lfKvgFont;
         e.defKvgFont = &lfDefKvgFont;
         return e;

@@ -49,10 +49,16 @@ typedef struct KvsDialogEntry {
     const char* templateName;
 } KvsDialogEntry;
 
-/* Writes the menu commands StartDialog serves, in id order, into entries
+/* Writes the menu commands StartDialog serves with a dialog or a routine of
+ * their own, in id order, into entries
  * (at most capacity of them; entries may be null when capacity is 0) and
  * returns how many there are, so a host can build or check its menus. */
 KVS_EXPORT int32_t KVS_CALL GetDialogList(KvsDialogEntry* entries, int32_t capacity);
+
+/* The library's version as (major << 16) | (minor << 8) | patch, 1.1.0 giving
+ * 0x010100. When text is not null it also receives the version as
+ * "major.minor.patch", cut to capacity bytes with the NUL. */
+KVS_EXPORT int32_t KVS_CALL GetLibraryVersion(char* text, int32_t capacity);
 
 /* Non-zero: variable lists are shown alphabetically; zero: in file order.
  * Returns the flag it was given. */

@@ -31,6 +31,7 @@ void findOthers(HMODULE module, scenario::LibraryExports& e) {
     find(module, "LoadSymbolBitmapsEx", e.loadSymbolBitmapsEx);
     find(module, "DeleteSymbolBitmapsEx", e.deleteSymbolBitmapsEx);
     find(module, "GetDialogList", e.getDialogList);
+    find(module, "GetLibraryVersion", e.getLibraryVersion);
     find(module, "lfKvgFont", e.kvgFont);
     find(module, "lfDefKvgFont", e.defKvgFont);
 }

@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <set>
+#include <string>
 #include <stdexcept>
 
 #include "core/descriptor.h"
 #include "core/dispatch_table.h"
 #include "families/library.h"
+#include "include/kvs_dlg.h"
 
 namespace {
 
@@ -169,6 +172,33 @@ TEST(Descriptors, UsedCountStopsAtTheFirstEmptyEntryOrTheCapacity) {
     EXPECT_EQ(array.used(1), 1);
     array.entries = {3, 1};
     EXPECT_EQ(array.used(10), 2);
+}
+
+}  // namespace
+
+namespace {
+
+// The host reads what the library serves and which version it is.
+TEST(LibraryExports, DialogListAndVersion) {
+    KvsDialogEntry entries[4] = {};
+    const int32_t served = GetDialogList(nullptr, 0);
+    EXPECT_EQ(served, 26);  // the data dialogs and the ids that run a routine
+    EXPECT_EQ(GetDialogList(entries, 4), served);
+    EXPECT_EQ(entries[0].commandId, 43);
+    EXPECT_STREQ(entries[0].caption, "List Cases");
+    EXPECT_STREQ(entries[0].templateName, "ListDlgBox");
+    EXPECT_EQ(entries[0].family, 0);
+
+    char text[16] = "xxxxxxxxxxxxxxx";
+    const int32_t version = GetLibraryVersion(text, sizeof text);
+    EXPECT_EQ(version >> 16, std::atoi(text));
+    EXPECT_EQ(std::to_string(version >> 16) + "." + std::to_string((version >> 8) & 0xFF) + "." +
+                  std::to_string(version & 0xFF),
+              text);
+    char small[2] = "x";
+    GetLibraryVersion(small, 2);
+    EXPECT_EQ(small[1], '\0');
+    EXPECT_EQ(GetLibraryVersion(nullptr, 0), version);
 }
 
 }  // namespace

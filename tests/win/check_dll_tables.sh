@@ -12,7 +12,7 @@ build_root="${1:?usage: check_dll_tables.sh BUILD_ROOT ARCH...}"
 shift
 [ $# -gt 0 ] || set -- i686 x86_64
 
-expected_exports="AttachImpExpOptions AttachSaveAsOptions ClearSamplingDialog ColorPickerDialogEx GetDialogList
+expected_exports="AttachImpExpOptions AttachSaveAsOptions ClearSamplingDialog ColorPickerDialogEx GetDialogList GetLibraryVersion
 DeleteSymbolBitmapsEx DoImpExpOptionsDlg DoSaveDataOptionsDlg LoadSymbolBitmapsEx ProcessDlgProc
 ReinitDialogs SetDlgSortList StartDialog StartSamplingDialog TRAXCallDialog UpdateSamplingDialog
 bPortrait fPageHeight fPageWidth lfDefKvgFont lfKvgFont nGlbGraphCounter"

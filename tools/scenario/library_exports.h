@@ -22,6 +22,7 @@ struct LibraryExports {
     decltype(&LoadSymbolBitmapsEx) loadSymbolBitmapsEx = nullptr;
     decltype(&DeleteSymbolBitmapsEx) deleteSymbolBitmapsEx = nullptr;
     decltype(&GetDialogList) getDialogList = nullptr;
+    decltype(&GetLibraryVersion) getLibraryVersion = nullptr;
     KvsLogFont* kvgFont = nullptr;     // lfKvgFont
     KvsLogFont* defKvgFont = nullptr;  // lfDefKvgFont
 };
