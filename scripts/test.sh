@@ -22,3 +22,7 @@ echo "== real windows under Wine"
 "$root/tests/win/run_wine_check.sh" controls_check
 echo "== stand-in host and scenarios under Wine"
 "$root/tools/wine/test.sh"
+echo "== the example C host under Wine"
+"$root/tools/wine/example_host.sh"
+echo "== release archives"
+"$root/scripts/release.sh" --check

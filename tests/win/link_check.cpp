@@ -55,6 +55,8 @@ extern "C" __declspec(dllexport) void touchEveryFunction(void) {
     ColorPickerDialogEx(nullptr, &colour);
     LoadSymbolBitmapsEx(&memory);
     DeleteSymbolBitmapsEx();
+    GetDialogList(nullptr, 0);
+    GetLibraryVersion(text, 16);
 
     bPortrait = fPageHeight > fPageWidth ? 1 : 0;
     ++nGlbGraphCounter;
