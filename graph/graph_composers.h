@@ -1,0 +1,73 @@
+// The graph builders as pure functions: the state of a graph dialog at OK
+// (the names in its lists, its check boxes and drop-downs as far as they
+// are checked and enabled) and its option records give exactly one command
+// line, or the refusal with its message. Showing the message (exclamation
+// icon, with a beep) or pushing the line is the delivering step's.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/command_text.h"
+#include "core/composition.h"
+#include "core/join_names.h"
+
+namespace kvs::graph {
+
+// The option records a builder asks for, by option code. A group of codes
+// belongs to an option button; a builder may visit a group only while its
+// button is enabled.
+class OptionSource {
+public:
+    virtual ~OptionSource() = default;
+    virtual bool buttonEnabled(int buttonId) const = 0;
+    // Appends the keyword groups of the record of code when its "set" flag is
+    // on; threeDimensional is the axis composer's flag.
+    virtual void append(CommandText& line, int optionCode, bool threeDimensional) const = 0;
+};
+
+// The option buttons, by control id.
+inline constexpr int kOptionsButton = 501, kAxesButton = 502, kAppearanceButton = 503, kLayoutButton = 504;
+
+// Scatterplot (101). Each keyword flag is true only when its box is checked
+// and enabled; display is the "Display as:" index (0 none, 1 contour, 2 tile).
+struct ScatterplotState {
+    Names x, y, z, group;
+    Names w;  // the W-variables of the triangular coordinates, when that record is set and shown
+    bool overlay = false;
+    bool repeat = false;
+    bool matrix = false;
+    bool mirror = false;
+    bool mirrorChecked = false;  // checked, enabled or not: the validation rules read these so
+    bool matrixChecked = false;
+    int display = 0;
+    bool displayEnabled = true;
+};
+Composition composeScatterplot(const ScatterplotState& state, const OptionSource& options);
+
+// High-low-close (107): one variable in each of High, Low, Close and X.
+struct HighLowState {
+    Names high, low, close, x, group;
+    bool mirror = false;
+    bool overlay = false;
+};
+Composition composeHighLow(const HighLowState& state, const OptionSource& options);
+
+// Quantile plot (146), the model of the spaced style.
+struct QuantileState {
+    Names x, y, group;
+    bool mirror = false;
+    bool overlay = false;
+};
+Composition composeQuantile(const QuantileState& state, const OptionSource& options);
+
+// The validation messages of the scatterplot (family A, 1 to 5).
+std::string_view scatterplotMessage(int number);
+
+// Appends a list's names, each followed by separator, dropping the last
+// separator, within the 9,900-character bound of every list of names.
+void appendNames(CommandText& line, const Names& names, char separator);
+// Removes one trailing character c, when the line ends in it.
+void stripTrailing(CommandText& line, char c);
+
+}  // namespace kvs::graph

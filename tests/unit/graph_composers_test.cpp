@@ -1,0 +1,123 @@
+// The graph builders: the grammar, the validation rules and the order of the
+// option groups.
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "graph/graph_composers.h"
+
+namespace kvs::graph {
+namespace {
+
+// Option records marked set write " <code>" (and "3D" for the axis flag).
+class FakeOptions : public OptionSource {
+public:
+    std::set<int> set;
+    std::set<int> disabledButtons;
+    bool buttonEnabled(int id) const override { return disabledButtons.count(id) == 0; }
+    void append(CommandText& line, int code, bool threeD) const override {
+        if (set.count(code)) line.append(' ').append(std::to_string(code)).append(threeD && code == 2004 ? "3D" : "");
+    }
+};
+
+std::string lineOf(const Composition& c) { return c.refused() ? "refused: " + c.refusal : c.lines.at(0); }
+
+TEST(GraphComposers, ScatterplotGrammar) {
+    const FakeOptions none;
+    auto plot = [&](const std::function<void(ScatterplotState&)>& change, const OptionSource& options) {
+        ScatterplotState s;
+        change(s);
+        return lineOf(composeScatterplot(s, options));
+    };
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.x = {"x"}, s.y = {"y"}; }, none), "PLOT y*x ");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.x = {"x"}, s.y = {"y1", "y2"}, s.overlay = true, s.group = {"g"}; },
+                   none),
+              "PLOT y1 y2*x / OVERLAY GROUP=g");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.x = {"x"}, s.y = {"y"}, s.group = {"a", "b"}; }, none),
+              "PLOT y*x / GROUP=a b");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.x = {"x"}, s.y = {"y"}, s.group = {"a", "b"}, s.mirror = true; },
+                   none),
+              "PLOT y*x / DUAL=a");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.w = {"w"}, s.z = {"z"}, s.y = {"y"}, s.x = {"x"}, s.repeat = true; },
+                   none),
+              "PLOT w*z*y*x / REPEAT");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.z = {"z1", "z2"}, s.matrix = s.matrixChecked = true; }, none),
+              "PLOT z1 z2 / MATRIX");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.x = {"x"}, s.y = {"y"}, s.z = {"z"}, s.display = 2; }, none),
+              "PLOT z*y*x / TILE");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.x = {"x"}, s.y = {"y"}, s.display = 1, s.displayEnabled = false; },
+                   none),
+              "PLOT y*x ");
+    // Y-variables alone, and many grouping variables alone, are composed as they stand.
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.y = {"y"}; }, none), "PLOT y ");
+    EXPECT_EQ(plot([](ScatterplotState& s) { s.group = {"a", "b", "c"}; }, none), "PLOT  / GROUP=a b c");
+}
+
+TEST(GraphComposers, ScatterplotRules) {
+    const FakeOptions none;
+    struct Row {
+        int message;
+        std::function<void(ScatterplotState&)> change;
+    };
+    const std::vector<Row> rows = {
+        {1, [](ScatterplotState&) {}},
+        {1, [](ScatterplotState& s) { s.group = {"g"}; }},
+        {1, [](ScatterplotState& s) { s.z = {"z"}, s.group = {"g"}, s.mirrorChecked = true; }},
+        {1, [](ScatterplotState& s) { s.group = {"g", "h"}; }},
+        {2, [](ScatterplotState& s) { s.x = {"x"}; }},
+        {2, [](ScatterplotState& s) { s.x = {"x"}, s.group = {"g"}; }},
+        {2, [](ScatterplotState& s) { s.x = {"x"}, s.z = {"z"}, s.group = {"g"}, s.mirrorChecked = true; }},
+        {2, [](ScatterplotState& s) { s.x = {"x"}, s.group = {"g", "h"}; }},
+        {3, [](ScatterplotState& s) { s.z = {"z"}; }},
+        {2, [](ScatterplotState& s) { s.x = {"x"}, s.z = {"z"}; }},
+        {4, [](ScatterplotState& s) { s.y = {"y1", "y2"}, s.z = {"z"}; }},
+        {4, [](ScatterplotState& s) { s.y = {"y"}, s.z = {"z1", "z2"}; }},
+        {5, [](ScatterplotState& s) { s.w = {"w"}, s.x = {"x"}, s.y = {"y"}; }},
+    };
+    for (const Row& row : rows) {
+        ScatterplotState s;
+        row.change(s);
+        EXPECT_EQ(composeScatterplot(s, none).refusal, scatterplotMessage(row.message)) << row.message;
+    }
+}
+
+TEST(GraphComposers, ScatterplotOptionGroupsInOrderWhileTheirButtonsAreEnabled) {
+    FakeOptions options;
+    options.set = {2001, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2010, 2012, 2013, 2014, 2015, 2016};
+    ScatterplotState s;
+    s.x = {"x"}, s.y = {"y"};
+    EXPECT_EQ(lineOf(composeScatterplot(s, options)),
+              "PLOT y*x / 2012 2013 2014 2015 2001 2002 2004 2006 2007 2008 2005 2010");
+    s.z = {"z"};
+    options.disabledButtons = {kOptionsButton, kLayoutButton};
+    EXPECT_EQ(lineOf(composeScatterplot(s, options)), "PLOT z*y*x / 2001 2002 2003 2016 20043D 2006 2007 2008");
+}
+
+TEST(GraphComposers, HighLowAndQuantile) {
+    FakeOptions options;
+    HighLowState h;
+    EXPECT_EQ(lineOf(composeHighLow(h, options)), "refused: Need High, Low, and Close variables!");
+    h.high = {"h"}, h.low = {"l"}, h.close = {"c"};
+    EXPECT_EQ(lineOf(composeHighLow(h, options)), "PLOT c h l/ HILO");
+    h.x = {"x"}, h.group = {"a", "b"}, h.mirror = true, h.overlay = true;
+    options.set = {2004, 2013};
+    EXPECT_EQ(lineOf(composeHighLow(h, options)), "PLOT c h l*x/ HILO DUAL=a,b OVERLAY 2013 2004");
+
+    QuantileState q;
+    EXPECT_EQ(lineOf(composeQuantile(q, FakeOptions{})),
+              "refused: You must select an X-variable to produce a Quantile Plot.");
+    q.x = {"x"}, q.y = {"y"};
+    EXPECT_EQ(lineOf(composeQuantile(q, FakeOptions{})), "QPLOT y * x");
+    q.group = {"a", "b"}, q.mirror = true;
+    EXPECT_EQ(lineOf(composeQuantile(q, FakeOptions{})), "QPLOT y * x/ GROUP=a,b");  // DUAL= needs exactly one
+    q.group = {"a"};
+    EXPECT_EQ(lineOf(composeQuantile(q, FakeOptions{})), "QPLOT y * x/ DUAL=a");
+    q.y.clear();
+    EXPECT_EQ(lineOf(composeQuantile(q, FakeOptions{})), "QPLOT x/ DUAL=a");
+}
+
+}  // namespace
+}  // namespace kvs::graph
