@@ -54,7 +54,98 @@ void appendCommaGrouping(CommandText& line, const Names& group, bool dual) {
     appendNames(line, group, ',');
 }
 
+struct BarFamilyKind {
+    int id;
+    std::string_view verb;
+    std::string_view name;
+    bool stack, range, tile;
+    int optionsButton, appearanceButton;
+    std::array<int, 12> codes;  // in the builder's order, 0 ends
+};
+
+// The common-axes button (507) serves 2001 to 2004 and the layout button
+// (504) 2005 and 2010 in all five.
+constexpr BarFamilyKind kBarFamily[] = {
+    {103, "BAR ", "Bar", true, true, true, 506, 530, {2018, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2020}},
+    {102, "PYRAMID ", "Pyramid", false, false, false, 511, 512, {2018, 2019, 2017, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2020}},
+    {108, "DOT ", "Dot", false, false, false, 508, 503, {2021, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2007, 2008}},
+    {109, "LINE ", "Line", false, false, false, 509, 512, {2022, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2008}},
+    {1124, "PROFILE ", "Profile", true, false, false, 510, 512, {2022, 2019, 2017, 2001, 2002, 2003, 2004, 2005, 2010, 2006}},
+};
+
+const BarFamilyKind* barFamilyKind(int graphId) {
+    for (const BarFamilyKind& kind : kBarFamily)
+        if (kind.id == graphId) return &kind;
+    return nullptr;
+}
+
+int buttonOf(const BarFamilyKind& kind, int code) {
+    if (code >= 2001 && code <= 2004) return 507;
+    if (code == 2005 || code == 2010) return kLayoutButton;
+    if (code == 2006 || code == 2007 || code == 2008 || code == 2020) return kind.appearanceButton;
+    return kind.optionsButton;
+}
+
+// The first rule that fires, 0 when none does.
+int barFamilyRule(const BarFamilyState& s) {
+    const bool x = !s.x.empty(), y = !s.y.empty(), z = !s.z.empty(), g = !s.group.empty();
+    if (!x && !y && !z) return g ? 6 : 1;
+    if (z && !s.matrixChecked && (!x || !y) && !s.counts) return 3;
+    if (y && !x && !s.repeatChecked && !s.matrixChecked) return 2;
+    if (s.counts && !x) return 5;
+    if (x && !y && !z && !s.counts) return 4;
+    return 0;
+}
+
 }  // namespace
+
+std::string barFamilyMessage(int number, std::string_view graphName) {
+    static constexpr std::array<std::string_view, 6> kMessages = {
+        "You must select an X-variable(s), or a Y-variable(s) with the Repeated trials option, or a Z-variable(s) "
+        "with the Matrix columns option, to produce a ",
+        "You must also select an X-variable(s) or the Repeated trials option to produce a ",
+        "You must also select an X-variable(s) and a Y-variable(s), or the Matrix columns option, to produce a ",
+        "You must also select a Y-variable to produce a ",
+        "You must also select an X-variable to produce a ",
+        "You must also select an X-variable(s) and a Y-variable(s) to produce a ",
+    };
+    if (number < 1 || number > 6) return {};
+    return std::string(kMessages[static_cast<std::size_t>(number - 1)]) + std::string(graphName);
+}
+
+Composition composeBarFamily(int graphId, const BarFamilyState& s, const OptionSource& options) {
+    const BarFamilyKind* kind = barFamilyKind(graphId);
+    if (!kind) return {};
+    if (const int rule = barFamilyRule(s)) return Composition::refuse(barFamilyMessage(rule, kind->name));
+    CommandText line(kind->verb);
+    if (!s.z.empty()) {
+        appendNames(line, s.z, ' ');
+        line.append('*');
+    } else if (s.counts) {
+        line.append(" . *");  // the dot stands for the count
+    }
+    if (!s.matrix) {
+        appendNames(line, s.y, ' ');
+        if (!s.repeat) {
+            if (!s.y.empty()) line.append('*');
+            appendNames(line, s.x, ' ');
+        }
+    }
+    stripTrailing(line, '*');
+    line.append(" /");
+    if (s.repeat) line.append(" REPEAT");
+    if (s.matrix) line.append(" MATRIX");
+    if (kind->stack && s.stack) line.append(" STACK");
+    if (kind->range && s.range) line.append(" RANGE");
+    if (s.overlay) line.append(" OVERLAY");
+    if (kind->tile && s.displayEnabled && s.display == 1) line.append(" TILE");
+    appendCommaGrouping(line, s.group, s.mirror);
+    const bool threeD = !s.z.empty() && s.display == 0;
+    for (int code : kind->codes)
+        if (code != 0 && options.buttonEnabled(buttonOf(*kind, code))) options.append(line, code, threeD);
+    stripTrailing(line, '/');
+    return Composition().add(line);
+}
 
 void appendNames(CommandText& line, const Names& names, char separator) { joinNames(names, line, separator); }
 

@@ -61,6 +61,26 @@ struct QuantileState {
 };
 Composition composeQuantile(const QuantileState& state, const OptionSource& options);
 
+// Bar (103), pyramid (102), dot (108), line (109) and profile (1124): one
+// grammar. Keyword flags are true only when checked and enabled; the
+// "...Checked" ones are the boxes' states as validation reads them.
+struct BarFamilyState {
+    Names x, y, z, group;
+    bool counts = false;   // "Counts of Y * X"
+    bool repeat = false, repeatChecked = false;
+    bool matrix = false, matrixChecked = false;
+    bool stack = false;    // bar and profile
+    bool range = false;    // bar
+    bool overlay = false;
+    bool mirror = false;
+    int display = 0;       // bar: 1 is "TILE"
+    bool displayEnabled = true;
+};
+// graphId: 103, 102, 108, 109 or 1124.
+Composition composeBarFamily(int graphId, const BarFamilyState& state, const OptionSource& options);
+// The message of family B, 1 to 6, for the graph's name.
+std::string barFamilyMessage(int number, std::string_view graphName);
+
 // The validation messages of the scatterplot (family A, 1 to 5).
 std::string_view scatterplotMessage(int number);
 

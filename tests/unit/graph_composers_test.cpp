@@ -121,3 +121,60 @@ TEST(GraphComposers, HighLowAndQuantile) {
 
 }  // namespace
 }  // namespace kvs::graph
+
+namespace kvs::graph {
+namespace {
+
+TEST(GraphComposers, BarFamily) {
+    const FakeOptions none;
+    auto bar = [&](int id, const std::function<void(BarFamilyState&)>& change) {
+        BarFamilyState s;
+        change(s);
+        return lineOf(composeBarFamily(id, s, none));
+    };
+    EXPECT_EQ(bar(103, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}; }), "BAR y*x ");
+    EXPECT_EQ(bar(103, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.counts = true; }), "BAR  . *y*x ");
+    EXPECT_EQ(bar(103, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.group = {"a", "b"}; }),
+              "BAR y*x / GROUP=a,b");
+    EXPECT_EQ(bar(103, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.group = {"a", "b"}, s.mirror = true; }),
+              "BAR y*x / DUAL=a,b");
+    EXPECT_EQ(bar(103, [](BarFamilyState& s) {
+                  s.y = {"y1", "y2"}, s.x = {"x"}, s.stack = s.range = s.overlay = true, s.display = 1;
+              }),
+              "BAR y1 y2*x / STACK RANGE OVERLAY TILE");
+    EXPECT_EQ(bar(109, [](BarFamilyState& s) { s.y = {"y1", "y2"}, s.repeat = s.repeatChecked = true; }),
+              "LINE y1 y2 / REPEAT");
+    EXPECT_EQ(bar(108, [](BarFamilyState& s) { s.z = {"z1", "z2"}, s.matrix = s.matrixChecked = true; }),
+              "DOT z1 z2 / MATRIX");
+    // Keywords the graph does not have are not written, whatever the state says.
+    EXPECT_EQ(bar(102, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.stack = s.range = true, s.display = 1; }),
+              "PYRAMID y*x ");
+    EXPECT_EQ(bar(1124, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.stack = true; }), "PROFILE y*x / STACK");
+    EXPECT_EQ(bar(103, [](BarFamilyState&) {}), "refused: " + barFamilyMessage(1, "Bar"));
+    EXPECT_EQ(barFamilyMessage(1, "Bar"),
+              "You must select an X-variable(s), or a Y-variable(s) with the Repeated trials option, or a "
+              "Z-variable(s) with the Matrix columns option, to produce a Bar");
+    EXPECT_EQ(bar(102, [](BarFamilyState& s) { s.y = {"y"}; }), "refused: " + barFamilyMessage(2, "Pyramid"));
+    EXPECT_EQ(bar(108, [](BarFamilyState& s) { s.z = {"z"}; }), "refused: " + barFamilyMessage(3, "Dot"));
+    EXPECT_EQ(bar(109, [](BarFamilyState& s) { s.x = {"x"}; }), "refused: " + barFamilyMessage(4, "Line"));
+    EXPECT_EQ(bar(103, [](BarFamilyState& s) { s.y = {"y"}, s.counts = true, s.repeatChecked = true; }),
+              "refused: " + barFamilyMessage(5, "Bar"));
+    EXPECT_EQ(bar(1124, [](BarFamilyState& s) { s.group = {"g"}; }), "refused: " + barFamilyMessage(6, "Profile"));
+}
+
+TEST(GraphComposers, BarFamilyOptionOrderFollowsTheGraph) {
+    FakeOptions options;
+    options.set = {2001, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2010, 2017, 2018, 2019, 2020, 2021, 2022};
+    BarFamilyState s;
+    s.y = {"y"}, s.x = {"x"};
+    EXPECT_EQ(lineOf(composeBarFamily(103, s, options)), "BAR y*x / 2018 2017 2019 2001 2002 2003 2004 2005 2010 2006 2020");
+    EXPECT_EQ(lineOf(composeBarFamily(102, s, options)), "PYRAMID y*x / 2018 2019 2017 2001 2002 2003 2004 2005 2010 2006 2020");
+    options.disabledButtons = {507};
+    EXPECT_EQ(lineOf(composeBarFamily(108, s, options)), "DOT y*x / 2021 2017 2019 2005 2010 2006 2007 2008");
+    EXPECT_EQ(lineOf(composeBarFamily(109, s, options)), "LINE y*x / 2022 2017 2019 2005 2010 2006 2008");
+    EXPECT_EQ(lineOf(composeBarFamily(1124, s, options)), "PROFILE y*x / 2022 2019 2017 2005 2010 2006");
+    EXPECT_TRUE(composeBarFamily(101, s, options).lines.empty());
+}
+
+}  // namespace
+}  // namespace kvs::graph
