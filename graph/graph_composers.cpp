@@ -149,6 +149,8 @@ Composition composeBarFamily(int graphId, const BarFamilyState& s, const OptionS
 
 void appendNames(CommandText& line, const Names& names, char separator) { joinNames(names, line, separator); }
 
+bool isBlankText(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
+
 void stripTrailing(CommandText& line, char c) {
     if (!line.empty() && line.str().back() == c) line.dropLast();
 }

@@ -81,12 +81,51 @@ Composition composeBarFamily(int graphId, const BarFamilyState& state, const Opt
 // The message of family B, 1 to 6, for the graph's name.
 std::string barFamilyMessage(int number, std::string_view graphName);
 
+// Box plot (106), dot density (113), histogram (111) and density function
+// (114): "DENSITY " and the spaced expression Y * X, with messages of
+// family C. style: the dot-density style or the density kind, as the
+// position in its drop-down list; display: the density display's position.
+struct DensityState {
+    Names x, y, group;
+    bool repeat = false, repeatChecked = false;
+    bool overlay = false;
+    bool mirror = false;
+    int style = 0;
+    int display = 0;
+};
+Composition composeDensity(int graphId, const DensityState& state, const OptionSource& options);
+std::string densityMessage(int number, int graphId);
+
+// The graphs whose own keywords are few: pie (129), icon (120), probability
+// plot (121), Andrews' Fourier plot (116), parallel coordinates (118),
+// scatterplot matrix (147), map (128) and function plot (119). The lists:
+// x is the category, column or X list; y the Y, feature, waveform, parallel
+// or row list.
+struct SimpleGraphState {
+    Names x, y, group;
+    bool mirror = false;
+    bool overlay = false;
+    bool half = false;        // matrix
+    bool transpose = false;   // icon, matrix
+    bool ring = false, threeD = false;  // pie
+    std::string slices;       // pie: " SLICE=" and its number when given
+    bool probabilityScale = false;      // " PSCALE"
+    int choice = 0;           // icon kind, map projection or distribution, as a list position
+    std::string parameter1, parameter2;  // the distribution's parameters
+    bool sphere = false;      // map
+    std::string equationLeft, equationRight;  // function plot
+    int display = 0;          // function plot: 1 contour, 2 tile
+};
+Composition composeSimpleGraph(int graphId, const SimpleGraphState& state, const OptionSource& options);
+
 // The validation messages of the scatterplot (family A, 1 to 5).
 std::string_view scatterplotMessage(int number);
 
 // Appends a list's names, each followed by separator, dropping the last
 // separator, within the 9,900-character bound of every list of names.
 void appendNames(CommandText& line, const Names& names, char separator);
+// A text of nothing but blanks gives no value.
+bool isBlankText(std::string_view text);
 // Removes one trailing character c, when the line ends in it.
 void stripTrailing(CommandText& line, char c);
 

@@ -178,3 +178,73 @@ TEST(GraphComposers, BarFamilyOptionOrderFollowsTheGraph) {
 
 }  // namespace
 }  // namespace kvs::graph
+
+namespace kvs::graph {
+namespace {
+
+TEST(GraphComposers, DensityFamily) {
+    const FakeOptions none;
+    auto density = [&](int id, const std::function<void(DensityState&)>& change) {
+        DensityState s;
+        change(s);
+        return lineOf(composeDensity(id, s, none));
+    };
+    EXPECT_EQ(density(106, [](DensityState& s) { s.y = {"y"}, s.x = {"x"}, s.group = {"a", "b"}; }),
+              "DENSITY y * x / GROUP=a,b BOX");
+    EXPECT_EQ(density(113, [](DensityState& s) { s.x = {"x"}, s.style = 2, s.overlay = true; }),
+              "DENSITY x/ OVERLAY JITTER");
+    EXPECT_EQ(density(111, [](DensityState& s) { s.x = {"x"}, s.style = 2, s.display = 1; }),
+              "DENSITY  . * x/ POLY TILE");  // the histogram has no "2D Contour"
+    EXPECT_EQ(density(114, [](DensityState& s) { s.y = {"y"}, s.x = {"x"}, s.display = 1; }),
+              "DENSITY  . * y * x/ HIST CONTOUR");
+    EXPECT_EQ(density(114, [](DensityState& s) { s.x = {"x"}, s.mirror = true, s.group = {"g"}; }),
+              "DENSITY  . * x/ DUAL=g HIST");
+    EXPECT_EQ(density(106, [](DensityState&) {}),
+              "refused: You must select an X-variable(s) or a Y-variable(s) with the Repeated trials option, to "
+              "produce a Box Plot.");
+    EXPECT_EQ(density(113, [](DensityState& s) { s.y = {"y"}; }),
+              "refused: You must also select an X-Variable(s) or the Repeated trials option to produce a Dot "
+              "Density Plot.");
+    EXPECT_EQ(density(111, [](DensityState& s) { s.y = {"y"}, s.repeat = s.repeatChecked = true; }),
+              "DENSITY  . * y/ REPEAT HIST");
+}
+
+TEST(GraphComposers, GraphsWithFewKeywords) {
+    FakeOptions options;
+    auto graph = [&](int id, const std::function<void(SimpleGraphState&)>& change) {
+        SimpleGraphState s;
+        change(s);
+        return lineOf(composeSimpleGraph(id, s, options));
+    };
+    EXPECT_EQ(graph(129, [](SimpleGraphState& s) { s.x = {"c"}, s.slices = "4", s.ring = s.threeD = true; }),
+              "PIE c/ SLICE=4 RING THREED");
+    EXPECT_EQ(graph(129, [](SimpleGraphState& s) { s.y = {"n"}; }),
+              "refused: You must select a Category variable to produce a Pie chart.");
+    EXPECT_EQ(graph(120, [](SimpleGraphState& s) { s.y = {"a", "b"}, s.choice = 4, s.group = {"g"}; }),
+              "ICON a b / GROUP=g FACE");
+    EXPECT_EQ(graph(120, [](SimpleGraphState& s) { s.y = {"a"}; }),
+              "refused: You must select at least 2 Feature variables to produce an Icon Plot.");
+    EXPECT_EQ(graph(121, [](SimpleGraphState& s) { s.x = {"x"}, s.choice = 0; }), "PPLOT x/ NORMAL");
+    EXPECT_EQ(graph(121, [](SimpleGraphState& s) { s.x = {"x"}, s.choice = 8, s.parameter1 = "2", s.parameter2 = "3"; }),
+              "PPLOT x/ BETA=2,3");
+    EXPECT_EQ(graph(121, [](SimpleGraphState& s) { s.x = {"x"}, s.choice = 1, s.parameter1 = "4"; }),
+              "PPLOT x/ CHISQ=4");
+    EXPECT_EQ(graph(116, [](SimpleGraphState& s) { s.y = {"a", "b", "c"}, s.overlay = true; }),
+              "FOURIER a b c/ OVERLAY");
+    EXPECT_EQ(graph(118, [](SimpleGraphState& s) { s.y = {"a"}; }),
+              "refused: You must select at least 2 Parallel variables to produce a Parallel Coordinate Display.");
+    EXPECT_EQ(graph(116, [](SimpleGraphState&) {}),
+              "refused: You must select at least 2 Waveform variables to produce an Andrew's Fourier Plot.");
+    EXPECT_EQ(graph(147, [](SimpleGraphState& s) { s.y = {"r1", "r2"}, s.x = {"c"}, s.half = true; }),
+              "SPLOM r1 r2 * c/ HALF");
+    EXPECT_EQ(graph(128, [](SimpleGraphState& s) { s.choice = 6, s.sphere = true; }), "MAP / PROJECT=ROBINSON SPHERE");
+    EXPECT_EQ(graph(119, [](SimpleGraphState& s) { s.equationLeft = "y", s.equationRight = "x^2", s.display = 1; }),
+              "FPLOT y = x^2 ; CONTOUR");
+    EXPECT_EQ(graph(119, [](SimpleGraphState& s) { s.equationLeft = "y"; }),
+              "refused: You must enter a complete equation to produce a Function plot.");
+    options.set = {2005, 2020, 2026};
+    EXPECT_EQ(graph(129, [](SimpleGraphState& s) { s.x = {"c"}; }), "PIE c/ 2005 2026 2020");
+}
+
+}  // namespace
+}  // namespace kvs::graph
