@@ -77,6 +77,7 @@ void SamplingProgress::start(std::int32_t job, std::int32_t total) {
     total_ = static_cast<std::uint32_t>(total);
     remaining_ = total_;
     cancel_ = false;
+    cancelled_ = false;
     DoWindowEnable(0);
     view_ = ui().openModeless(0, progresstext::kTemplate, *this);
     pump();
@@ -92,6 +93,9 @@ void SamplingProgress::start(std::int32_t job, std::int32_t total) {
 }
 
 std::int32_t SamplingProgress::update(std::int32_t remaining, std::int32_t elapsed) {
+    // A job the user has cancelled stays cancelled: the question is not
+    // asked, nor the kernel told, a second time.
+    if (cancelled_) return 1;
     if (view_) ui().updateWindow(*view_);
     if (remaining < 1 || static_cast<std::uint32_t>(remaining) >= total_) return 0;
 
@@ -140,6 +144,8 @@ void SamplingProgress::confirmCancel() {
 
 void SamplingProgress::clear() {
     pump();
+    cancel_ = false;
+    cancelled_ = false;
     if (view_) {
         ui().closeModeless(*view_);
         view_ = nullptr;

@@ -97,7 +97,12 @@ TEST_F(ProgressRun, NoKeepsTheJobAndFocusesCancel) {
     answers = {kIdYes};
     EXPECT_EQ(progress.update(40, 90), 1);
     EXPECT_EQ(lines.back(), "CancelSampling 7");
+    // Later updates of the cancelled job answer 1 without asking or telling the kernel again.
+    const std::size_t told = lines.size();
+    EXPECT_EQ(progress.update(30, 95), 1);
+    EXPECT_EQ(lines.size(), told);
     progress.clear();
+    EXPECT_EQ(progress.update(30, 95), 0) << "after the clear nothing is cancelled any more";
     EXPECT_FALSE(progress.open());
     EXPECT_EQ(lines.back(), "DoWindowEnable 1");
     EXPECT_FALSE(ui->top());
