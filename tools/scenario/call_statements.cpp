@@ -34,7 +34,7 @@ bool CallContext::has(const void* entry, std::string_view name) const {
     return entry != nullptr;
 }
 
-std::optional<long> CallContext::number(std::size_t i) const {
+std::optional<long long> CallContext::number(std::size_t i) const {
     return statement.args.size() > i ? toNumber(statement.args[i].text) : std::nullopt;
 }
 

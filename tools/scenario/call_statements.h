@@ -25,7 +25,7 @@ struct CallContext {
     // False, with an error line, when the library lacks the export.
     bool has(const void* entry, std::string_view name) const;
     // The statement's argument i as a number, or nothing.
-    std::optional<long> number(std::size_t i) const;
+    std::optional<long long> number(std::size_t i) const;
     // The statement's argument i as text, or nothing when absent.
     std::optional<std::string> text(std::size_t i) const;
 };

@@ -147,8 +147,8 @@ bool Engine::setup(const Statement& s) {
         emit_("allocations live " + std::to_string(backend_.liveAllocations()));
     } else if (k == "start") {
         const auto id = number(0);
-        if (!id) {
-            fail(s, "start takes a command id");
+        if (!id || *id < 0 || *id > 0xFFFFFFFFLL) {
+            fail(s, "start takes a command id of 32 bits");
             return true;
         }
         const std::int32_t result = backend_.startDialog(static_cast<std::uint32_t>(*id), helpFile_);
@@ -177,7 +177,7 @@ bool Engine::setup(const Statement& s) {
 // A number, an IDC_ name of the id headers, or a quoted label.
 int Engine::controlId(const Token& token) {
     if (!token.quoted) {
-        std::optional<long> id = toNumber(token.text);
+        std::optional<long long> id = toNumber(token.text);
         if (!id) {
             if (const auto named = controlIdNamed(token.text)) id = *named;
         }

@@ -92,8 +92,8 @@ ParseResult parse(std::string_view source) {
     return result;
 }
 
-std::optional<long> toNumber(const std::string& text) {
-    long value = 0;
+std::optional<long long> toNumber(const std::string& text) {
+    long long value = 0;
     const char* first = text.data();
     const char* last = first + text.size();
     if (first != last && *first == '+') ++first;

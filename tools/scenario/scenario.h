@@ -33,6 +33,7 @@ struct ParseResult {
 ParseResult parse(std::string_view source);
 
 // A whole number, or nothing.
-std::optional<long> toNumber(const std::string& text);
+// 64 bits on every platform, so "start 4294967295" reads alike natively and under Wine.
+std::optional<long long> toNumber(const std::string& text);
 
 }  // namespace kvs::scenario
