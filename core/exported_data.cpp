@@ -1,4 +1,5 @@
 // Data the library exports for the host and the graph module.
+#include "core/lifecycle.h"
 #include "include/kvs_dlg.h"
 
 extern "C" {
@@ -9,3 +10,16 @@ int32_t nGlbGraphCounter = 0;
 KvsLogFont lfKvgFont = {};
 KvsLogFont lfDefKvgFont = {};
 }
+
+namespace kvs {
+
+void resetExportedData() {
+    bPortrait = 1;
+    fPageHeight = 11.0f;
+    fPageWidth = 8.5f;
+    nGlbGraphCounter = 0;
+    lfKvgFont = {};
+    lfDefKvgFont = {};
+}
+
+}  // namespace kvs

@@ -7,12 +7,17 @@
 #include "core/file_choosers.h"
 #include "core/file_filters.h"
 #include "core/library_state.h"
+#include "core/progress.h"
 #include "include/kvs_dlg.h"
 
 namespace kvs {
 
 void onLibraryLoad() {
     library() = LibraryState{};
+    // A library loaded again (as every scenario file does headlessly) starts
+    // as the first load did, as a freshly mapped DLL would.
+    resetExportedData();
+    samplingProgress() = SamplingProgress{};
     resetDescriptorsForLoad();
     for (const FamilyTable& family : installedFamilies())
         if (family.resetForLoad) family.resetForLoad();

@@ -76,3 +76,20 @@ TEST(ProgramText, AMegabyteIsKeptToTheEditLimit) {
 }
 
 }  // namespace
+
+namespace {
+
+// Every scenario file starts from a freshly loaded library: what one file
+// did to the graph font or the progress window is gone in the next, so
+// results do not depend on the order of the files.
+TEST(HeadlessRunner, EachFileStartsFromAFreshLibrary) {
+    kvs::headless::ResourceSet resources;
+    resources.load(kvs::headless::embeddedResources());
+    kvs::headless::HeadlessRunner runner(resources);
+    const std::string fresh = runner.run("showfont\n");
+    runner.run("deffont \"Arial\" 12 bold\nstart 153\nsamplingstart 7 100\nsamplingupdate 50 10\nsamplingclear\n");
+    EXPECT_EQ(runner.run("showfont\n"), fresh);
+    EXPECT_EQ(runner.run("samplingupdate 50 10\n"), "UpdateSamplingDialog 50 10 = 0\n");
+}
+
+}  // namespace
