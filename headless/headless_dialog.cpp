@@ -37,9 +37,16 @@ void selectAll(std::vector<ListEntry>& items, bool on) {
     for (ListEntry& e : items) e.selected = on;
 }
 
-void selectOnly(std::vector<ListEntry>& items, int index) {
-    selectAll(items, false);
-    items[static_cast<std::size_t>(index)].selected = true;
+// Single selection: the chosen item only.
+void selectOnly(ControlState& c, int index) {
+    if (validIndex(c.items, c.chosen)) c.items[static_cast<std::size_t>(c.chosen)].selected = false;
+    c.items[static_cast<std::size_t>(index)].selected = true;
+    c.chosen = index;
+}
+
+void selectNone(ControlState& c) {
+    if (validIndex(c.items, c.chosen)) c.items[static_cast<std::size_t>(c.chosen)].selected = false;
+    c.chosen = -1;
 }
 
 // After every entry that sorts before or equal to text, so equal names keep
@@ -51,9 +58,11 @@ std::size_t sortedPosition(const std::vector<ListEntry>& items, std::string_view
     return static_cast<std::size_t>(it - items.begin());
 }
 
-int insertEntry(std::vector<ListEntry>& items, std::string_view text, bool sorted) {
-    const std::size_t at = sorted ? sortedPosition(items, text) : items.size();
-    items.insert(items.begin() + static_cast<std::ptrdiff_t>(at), ListEntry{cText(text), false});
+// The selected item keeps its selection when an entry goes in before it.
+int insertEntry(ControlState& c, std::string_view text, bool sorted) {
+    const std::size_t at = sorted ? sortedPosition(c.items, text) : c.items.size();
+    c.items.insert(c.items.begin() + static_cast<std::ptrdiff_t>(at), ListEntry{cText(text), false});
+    if (c.chosen >= static_cast<int>(at)) ++c.chosen;
     return static_cast<int>(at);
 }
 
@@ -257,17 +266,22 @@ int HeadlessDialog::listAdd(int id, std::string_view text, ListInsert how) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr) return kListError;
     if (c->items.size() >= listCapacity_) return kListNoSpace;
-    return insertEntry(c->items, text, how == ListInsert::Sorted && c->def.listSorted());
+    return insertEntry(*c, text, how == ListInsert::Sorted && c->def.listSorted());
 }
 
 void HeadlessDialog::listDelete(int id, int index) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
-    if (c != nullptr && validIndex(c->items, index)) c->items.erase(c->items.begin() + index);
+    if (c == nullptr || !validIndex(c->items, index)) return;
+    c->items.erase(c->items.begin() + index);
+    if (index == c->chosen) c->chosen = -1;
+    else if (index < c->chosen) --c->chosen;
 }
 
 void HeadlessDialog::listClear(int id) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
-    if (c != nullptr) c->items.clear();
+    if (c == nullptr) return;
+    c->items.clear();
+    c->chosen = -1;
 }
 
 // LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
@@ -292,9 +306,9 @@ void HeadlessDialog::listSelect(int id, int index, bool on) {
         if (index == -1) selectAll(items, on);
         else if (validIndex(items, index)) items[static_cast<std::size_t>(index)].selected = on;
     } else if (on) {
-        if (validIndex(items, index)) selectOnly(items, index);
+        if (validIndex(items, index)) selectOnly(*c, index);
     } else if (index == -1 || (validIndex(items, index) && items[static_cast<std::size_t>(index)].selected)) {
-        selectAll(items, false);
+        selectNone(*c);
     }
 }
 
@@ -303,8 +317,8 @@ void HeadlessDialog::listSelect(int id, int index, bool on) {
 void HeadlessDialog::listSetCurrent(int id, int index) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || c->def.listMulti()) return;
-    if (index == -1) selectAll(c->items, false);
-    else if (validIndex(c->items, index)) selectOnly(c->items, index);
+    if (index == -1) selectNone(*c);
+    else if (validIndex(c->items, index)) selectOnly(*c, index);
 }
 
 // ---------------------------------------------------------------------------
@@ -312,7 +326,7 @@ void HeadlessDialog::listSetCurrent(int id, int index) {
 
 void HeadlessDialog::comboAdd(int id, std::string_view text) {
     ControlState* c = reachKind(id, ControlKind::ComboBox);
-    if (c != nullptr) insertEntry(c->items, text, c->def.comboSorted());
+    if (c != nullptr) insertEntry(*c, text, c->def.comboSorted());
 }
 
 // CB_RESETCONTENT empties the list and the edit field.
@@ -320,6 +334,7 @@ void HeadlessDialog::comboClear(int id) {
     ControlState* c = reachKind(id, ControlKind::ComboBox);
     if (c == nullptr) return;
     c->items.clear();
+    c->chosen = -1;
     c->text.clear();
 }
 
@@ -334,10 +349,10 @@ void HeadlessDialog::comboSelect(int id, int index) {
     ControlState* c = reachKind(id, ControlKind::ComboBox);
     if (c == nullptr) return;
     if (validIndex(c->items, index)) {
-        selectOnly(c->items, index);
+        selectOnly(*c, index);
         c->text = c->items[static_cast<std::size_t>(index)].text;
     } else {
-        selectAll(c->items, false);
+        selectNone(*c);
         c->text.clear();
     }
 }

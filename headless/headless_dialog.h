@@ -37,6 +37,10 @@ struct ControlState {
     bool enabled = true;
     int check = kUnchecked;      // buttons that can be checked
     std::vector<ListEntry> items;  // list and combo boxes; a combo box selects at most one
+    // Single-selection list boxes and combo boxes: the index of the selected
+    // item, -1 for none, so that selecting one item costs the same however
+    // long the list is.
+    int chosen = -1;
     int selStart = 0, selEnd = 0;  // edit controls: the selection, the caret when equal
     bool redraw = true;
 };
