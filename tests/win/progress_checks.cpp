@@ -115,8 +115,16 @@ kvs::check::Failures checkProgressWindow() {
     SendMessageA(dialog, WM_USER, PROGRESS_SET_CAPTION, reinterpret_cast<LPARAM>("Sampling"));
     kvs::check::expect(failures, textOf(dialog) == "Sampling", "request 6 sets the caption");
 
+    // The cancelled job is not asked about, nor handed to the kernel, again.
+    const std::size_t told = calls.size();
+    kvs::check::expect(failures, UpdateSamplingDialog(8, 4250) == 1 && questions.size() == 2 && calls.size() == told,
+                       "a cancelled job stays cancelled without asking again");
+    ClearSamplingDialog();
+
     // Closing from the system menu destroys the window; the next update
     // still asks.
+    StartSamplingDialog(9, 100);
+    dialog = progressWindow();
     SendMessageA(dialog, WM_CLOSE, 0, 0);
     kvs::check::expect(failures, !IsWindow(dialog), "WM_CLOSE destroys the window");
     answers = {IDNO};
