@@ -4,6 +4,7 @@
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 "$root/scripts/setup.sh"
+"$root/tests/banned_calls.sh"
 
 for config in native native-release native-sanitize; do
   echo "== $config"
