@@ -125,6 +125,11 @@ std::optional<int> HeadlessBackend::controlByLabel(std::string_view label) {
     return window ? window->dialog->findByLabel(label) : std::nullopt;
 }
 
+bool HeadlessBackend::hasControl(int id) {
+    DialogWindow* window = dialog();
+    return window && window->dialog->control(id);
+}
+
 std::optional<ControlInfo> HeadlessBackend::control(int id) {
     DialogWindow* window = dialog();
     const ControlState* state = window ? window->dialog->control(id) : nullptr;

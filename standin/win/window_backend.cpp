@@ -1,5 +1,8 @@
 #include "standin/win/window_backend.h"
 
+#include <algorithm>
+#include <array>
+
 #include "standin/kernel_state.h"
 #include "standin/win/control_probe.h"
 #include "standin/win/kernel_control.h"
@@ -82,6 +85,8 @@ std::optional<int> WindowBackend::controlByLabel(std::string_view label) {
     return window ? standin::controlByLabel(window, label) : std::nullopt;
 }
 
+bool WindowBackend::hasControl(int id) { return item(id) != nullptr; }
+
 std::optional<scenario::ControlInfo> WindowBackend::control(int id) {
     const HWND control = item(id);
     if (!control) return std::nullopt;
@@ -96,11 +101,23 @@ void WindowBackend::selectItems(int listId, const std::vector<int>& indices) {
     if (!list) return;
     if (isMultiSelectList(list)) {
         SendMessageA(list, LB_SETSEL, FALSE, -1);
-        for (int index : indices) SendMessageA(list, LB_SETSEL, TRUE, index);
+        // LB_SETSEL also moves the caret to its item and scrolls it into
+        // view, a few milliseconds an item under Wine: each run of adjacent
+        // indices is selected at once, and the caret moved once, to the last
+        // index given.
+        std::vector<int> sorted = indices;
+        std::sort(sorted.begin(), sorted.end());
+        for (std::size_t first = 0; first < sorted.size();) {
+            std::size_t last = first;
+            while (last + 1 < sorted.size() && sorted[last + 1] <= sorted[last] + 1) ++last;
+            SendMessageA(list, LB_SELITEMRANGEEX, static_cast<WPARAM>(sorted[first]), sorted[last]);
+            first = last + 1;
+        }
+        if (!indices.empty()) SendMessageA(list, LB_SETCARETINDEX, static_cast<WPARAM>(indices.back()), FALSE);
     } else if (indices.empty()) {
         SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
     } else {
-        for (int index : indices) SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+        SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(indices.back()), 0);
     }
     notify(window, listId, LBN_SELCHANGE);
 }

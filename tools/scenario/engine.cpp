@@ -181,7 +181,7 @@ int Engine::controlId(const Token& token) {
         if (!id) {
             if (const auto named = controlIdNamed(token.text)) id = *named;
         }
-        return id && backend_.control(static_cast<int>(*id)) ? static_cast<int>(*id) : 0;
+        return id && *id != 0 && backend_.hasControl(static_cast<int>(*id)) ? static_cast<int>(*id) : 0;
     }
     return backend_.controlByLabel(token.text).value_or(0);
 }

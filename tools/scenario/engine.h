@@ -74,6 +74,9 @@ public:
     // A dialog's caption, a message box's text, a chooser's title.
     virtual std::string topText() = 0;
     virtual std::optional<int> controlByLabel(std::string_view label) = 0;
+    // Whether the topmost dialog has the control: what control(id) tells,
+    // without reading a long list's items.
+    virtual bool hasControl(int id) { return control(id).has_value(); }
     virtual std::optional<ControlInfo> control(int id) = 0;
     // Selects exactly these items and notifies a selection change.
     virtual void selectItems(int listId, const std::vector<int>& indices) = 0;

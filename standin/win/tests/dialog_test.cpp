@@ -133,6 +133,7 @@ KVS_TEST(controls_read_as_a_user_sees_them) {
         for (int id : {ID_SOURCE, ID_METHOD, ID_ASCENDING, ID_SAVEFILE, ID_ORDERBUTTON, ID_TITLE})
             info.push_back(b.control(id).value_or(kvs::scenario::ControlInfo{}));
         KVS_CHECK(!b.control(999));
+        KVS_CHECK(b.hasControl(ID_SOURCE) && !b.hasControl(999));
     });
     d.go();
     KVS_CHECK_EQ(std::size_t{6}, info.size());
