@@ -60,7 +60,24 @@ std::int32_t startDialog(std::uint32_t commandId, WindowRef owner, const char* h
     lib.hostWindow = owner;
     const auto id = static_cast<std::uint16_t>(commandId & 0xFFFF);
     Family family{};
-    if (familyOf(id, family)) dispatch(id, family, owner);
+    try {
+        if (familyOf(id, family)) dispatch(id, family, owner);
+    } catch (...) {
+        // A dialog that failed half way leaves the library idle: the next
+        // StartDialog must not look nested, and lines of the failed dialog
+        // never reach the host.
+        --nesting;
+        if (outermost) {
+            queue::resetForLoad();
+            lib.optionSlots.fill(-1);
+            lib.currentCommandId = kNoCommand;
+        } else {
+            lib.currentCommandId = savedId;
+            lib.optionSlots = savedSlots;
+            lib.hostWindow = savedHost;
+        }
+        throw;
+    }
     --nesting;
     if (!outermost) {
         lib.currentCommandId = savedId;

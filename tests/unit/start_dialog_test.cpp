@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include <functional>
 #include <string>
 #include <vector>
@@ -152,6 +154,22 @@ TEST_F(StartDialogTest, ResetAllEmptiesTargetsAndRestoresTheFirstState) {
         return 2;
     };
     StartDialog(72, nullptr, "");
+}
+
+}  // namespace
+
+namespace {
+
+// A dialog that fails with an exception: StartDialog still answers 1, and
+// the library is idle again, so the next StartDialog hands its lines over.
+TEST_F(StartDialogTest, AFailedDialogLeavesTheLibraryIdle) {
+    ui.dialog = [](std::string_view) -> int { throw std::bad_alloc(); };
+    EXPECT_EQ(StartDialog(72, nullptr, ""), 1);
+    EXPECT_EQ(library().currentCommandId, kvs::kNoCommand);
+    ui.dialog = [](std::string_view) { return kvs::kIdCancel; };
+    host.clear();
+    EXPECT_EQ(StartDialog(245, nullptr, ""), 1);  // queues lines without a dialog
+    EXPECT_FALSE(host.empty()) << "the next StartDialog is not taken for a nested one";
 }
 
 }  // namespace
