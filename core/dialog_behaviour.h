@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "core/seam.h"
 
@@ -10,6 +11,16 @@ namespace kvs {
 class DefaultsTable;
 class GenericDialog;
 class VariableCatalogue;
+struct SelectionArray;
+
+// A target list whose selection the dialog keeps itself, beyond the
+// descriptor's arrays: restored on open, stored on OK, given back on Cancel
+// like the descriptor's.
+struct OwnList {
+    int listId;
+    SelectionArray* array;
+    std::int32_t capacity;
+};
 
 struct DialogContext {
     DialogView& view;
@@ -61,6 +72,14 @@ public:
     // with the variables of the file in use; true when it did.
     virtual bool fillSources(DialogContext&, VariableCatalogue& /*first*/, VariableCatalogue& /*second*/) {
         return false;
+    }
+    // Target lists the dialog keeps in arrays of its own.
+    virtual std::vector<OwnList> ownLists() { return {}; }
+    // How many names target list listId takes, given the descriptor's
+    // capacity for it (a list that holds one variable says 1).
+    virtual std::int32_t listCapacity(int listId, std::int32_t capacity) const {
+        (void)listId;
+        return capacity;
     }
     // The context the Help button opens, and the help-context word's value.
     virtual std::uint32_t helpContext(std::uint16_t commandId) const { return commandId; }

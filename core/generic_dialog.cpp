@@ -37,6 +37,7 @@ void GenericDialog::prepareTargets(DialogView& view) {
     const auto addTarget = [&](int listId, SelectionArray& array, std::int32_t capacity, int add, int remove,
                                bool disableButtons) {
         if (!view.has(listId)) return;
+        if (behaviour_) capacity = behaviour_->listCapacity(listId, capacity);
         targets_.push_back({listId, &array, capacity, {}});
         if (!disableButtons) return;
         if (view.has(add)) view.enable(add, false);
@@ -56,6 +57,15 @@ void GenericDialog::prepareTargets(DialogView& view) {
         if (d.third.exists) addTarget(IDC_TARGET3, d.third, d.thirdCapacity, IDC_ADD3, IDC_REMOVE3, true);
         if (d.fourth.exists)
             addTarget(IDC_TARGET4, d.fourth, d.fourthCapacity, IDC_ADD4, IDC_REMOVE4, d.fourthCapacity > 0);
+    }
+    if (!behaviour_) return;
+    for (const OwnList& own : behaviour_->ownLists()) {
+        if (!view.has(own.listId) || !own.array) continue;
+        if (own.array->entries.size() < static_cast<std::size_t>(own.capacity))
+            own.array->entries.resize(static_cast<std::size_t>(own.capacity), -1);
+        own.array->exists = true;
+        std::erase_if(targets_, [&](const Target& t) { return t.listId == own.listId; });
+        targets_.push_back({own.listId, own.array, own.capacity, {}});
     }
 }
 

@@ -182,7 +182,7 @@ namespace {
 TEST(LibraryExports, DialogListAndVersion) {
     KvsDialogEntry entries[4] = {};
     const int32_t served = GetDialogList(nullptr, 0);
-    EXPECT_EQ(served, 26);  // the data dialogs and the ids that run a routine
+    EXPECT_EQ(served, 46);  // the data and graph dialogs, and the ids that run a routine
     EXPECT_EQ(GetDialogList(entries, 4), served);
     EXPECT_EQ(entries[0].commandId, 43);
     EXPECT_STREQ(entries[0].caption, "List Cases");
