@@ -55,8 +55,10 @@ constexpr FormField kBarFields[] = {{IDC_GRAPH_COUNTS, S::Check}, {IDC_GRAPH_REP
                                     {IDC_GRAPH_RANGE, S::Check},  {IDC_GRAPH_OVERLAY, S::Check},
                                     {IDC_GRAPH_MIRROR, S::Check}, {IDC_GRAPH_DISPLAY, S::Combo}};
 constexpr FormField kBarFamilyFields[] = {{IDC_GRAPH_REPEAT, S::Check}, {IDC_GRAPH_MATRIX, S::Check},
-                                          {IDC_GRAPH_STACK, S::Check},  {IDC_GRAPH_OVERLAY, S::Check},
-                                          {IDC_GRAPH_MIRROR, S::Check}};
+                                          {IDC_GRAPH_OVERLAY, S::Check}, {IDC_GRAPH_MIRROR, S::Check}};
+constexpr FormField kProfileFields[] = {{IDC_GRAPH_REPEAT, S::Check},  {IDC_GRAPH_MATRIX, S::Check},
+                                        {IDC_GRAPH_STACK, S::Check},   {IDC_GRAPH_OVERLAY, S::Check},
+                                        {IDC_GRAPH_MIRROR, S::Check}};
 constexpr FormField kDensityFields[] = {{IDC_GRAPH_REPEAT, S::Check}, {IDC_GRAPH_OVERLAY, S::Check},
                                         {IDC_GRAPH_MIRROR, S::Check}, {IDC_GRAPH_KIND, S::Combo},
                                         {IDC_GRAPH_DISPLAY, S::Combo}};
@@ -215,7 +217,7 @@ const GraphSpec kGraphs[] = {
     {129, {IDC_OPT_PIE_SCALE, IDC_OPT_SLICE_LABEL, IDC_OPT_LAYOUT_ONLY, 0}, kPieCodes, kPieFields, {}, simple},
     {146, {IDC_OPT_QPLOT, IDC_OPT_2D_AXES, kLook, kLayout}, kPlotCodes, kMirrorOverlayFields, {}, quantile},
     {147, {IDC_OPT_SPLOM, IDC_OPT_TRANS_AXES, kLook, kLayout}, kSplomCodes, kSplomFields, {}, simple},
-    {1124, {IDC_OPT_PROFILE, IDC_OPT_COMMON_AXES, IDC_OPT_LINE_APPEARANCE, kLayout}, kProfileCodes, kBarFamilyFields, {}, barFamily},
+    {1124, {IDC_OPT_PROFILE, IDC_OPT_COMMON_AXES, IDC_OPT_LINE_APPEARANCE, kLayout}, kProfileCodes, kProfileFields, {}, barFamily},
 };
 
 }  // namespace
