@@ -37,7 +37,9 @@ void readValues(const DialogView& view, std::span<const FormField> fields, Contr
         std::string value;
         switch (field.store) {
         case Store::Check:
-        case Store::RadioFirst: value = view.isChecked(field.id) ? "1" : ""; break;
+        case Store::RadioFirst:
+            if (view.isChecked(field.id)) value.assign(1, '1');
+            break;
         case Store::Text:
         case Store::Number: value = view.text(field.id); break;
         case Store::Combo: value = std::to_string(std::max(view.comboSelection(field.id), 0)); break;

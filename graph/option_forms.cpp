@@ -437,7 +437,7 @@ int positionOf(const ControlValues& values, int id) {
 ControlValues defaultValues(const OptionForm& form) {
     ControlValues values;
     for (const FormField& field : form.fields)
-        if (field.store == Store::RadioFirst) values[field.id] = "1";
+        if (field.store == Store::RadioFirst) values[field.id].assign(1, '1');
     return values;
 }
 
