@@ -1,6 +1,10 @@
 #include "standin/win/tour.h"
 
+#include <cctype>
 #include <cstdio>
+#include <set>
+#include <string>
+#include <vector>
 #include <functional>
 
 #include "standin/host_state.h"
@@ -51,6 +55,7 @@ private:
     WindowWatch watch_;
     WindowBackend backend_;
     std::string shotName_;
+    std::set<std::string> shownTemplates_;  // upper case, as resource names are kept
     bool shot_ = true;
     int settle_ = 0;
 };
@@ -97,7 +102,27 @@ void Tour::pictureOfUnlisted() {
     constexpr Unlisted kUnlisted[] = {
         {"0051-Note", "Note"}, {"0052-PageTitle", "PageTitle"}, {"0053-PrintFormat", "PrintFormat"},
         {"0091-KeyVars", "KeyVars"}};
-    for (const Unlisted& unlisted : kUnlisted) {
+    std::vector<Unlisted> templates(std::begin(kUnlisted), std::end(kUnlisted));
+    // Every other template no dialog of the tour showed: the option
+    // sub-dialogs, under their template's own caption.
+    std::vector<std::string> others;
+    EnumResourceNamesA(
+        library_.module(), RT_DIALOG,
+        [](HMODULE, LPCSTR, LPSTR name, LONG_PTR found) -> BOOL {
+            if (!IS_INTRESOURCE(name)) reinterpret_cast<std::vector<std::string>*>(found)->emplace_back(name);
+            return TRUE;
+        },
+        reinterpret_cast<LONG_PTR>(&others));
+    std::vector<std::string> shotNames;
+    for (const std::string& name : others) {
+        if (shownTemplates_.count(name)) continue;
+        bool listed = false;
+        for (const Unlisted& u : kUnlisted) listed = listed || _stricmp(u.templateName, name.c_str()) == 0;
+        if (!listed) shotNames.push_back("template-" + name);
+    }
+    for (std::size_t i = 0; i < shotNames.size(); ++i)
+        templates.push_back({shotNames[i].c_str(), shotNames[i].c_str() + 9});
+    for (const Unlisted& unlisted : templates) {
         if (!FindResourceA(library_.module(), unlisted.templateName, RT_DIALOG)) continue;
         const HWND dialog = CreateDialogParamA(library_.module(), unlisted.templateName, owner_, pictureProcedure, 0);
         if (!dialog) {
@@ -160,6 +185,9 @@ int Tour::run() {
     for (const KvsDialogEntry& row : library_.dialogs()) {
         // Only the dialogs the library has a template for are shown.
         if (!row.templateName || !FindResourceA(library_.module(), row.templateName, RT_DIALOG)) continue;
+        std::string upper(row.templateName);
+        for (char& c : upper) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+        shownTemplates_.insert(upper);
         visit(shotNameOf(row), [&] {
             return "StartDialog " + std::to_string(row.commandId) + " = " +
                    std::to_string(library_.startDialog(row.commandId, owner_, kSampleHelpFile));
@@ -186,6 +214,8 @@ int Tour::run() {
         });
     // The progress window of a sampling job.
     showProgress();
+    for (const char* shown : {"SAVEASOPTS", "IDD_OPTIONSIMPORTEXPORT", "COLORPICKER", "PROCESSBOX"})
+        shownTemplates_.insert(shown);
     watch_.stop();
     pictureOfUnlisted();
     pictureOfPictures();
