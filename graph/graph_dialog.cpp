@@ -12,9 +12,8 @@
 #include "graph/control_values.h"
 #include "graph/graph_specs.h"
 #include "graph/option_codes.h"
-#include "graph/option_menus.h"
+#include "graph/option_buttons.h"
 #include "graph/option_store.h"
-#include "graph/option_subdialog.h"
 #include "include/kvs_imports.h"
 #include "resources/graph_ids.h"
 
@@ -70,7 +69,7 @@ public:
 
     void notify(DialogContext& context, const Notification& n) override {
         DialogView& view = context.view;
-        if (n.event == Event::Clicked && n.controlId >= IDC_OPT_OPTIONS && n.controlId <= IDC_OPT_BAR_APPEARANCE) {
+        if (n.event == Event::Clicked && n.controlId >= kFirstOptionButton && n.controlId <= kLastOptionButton) {
             optionButton(context, n.controlId);
         } else if (n.clicked(IDC_FPLOT_INSERT_FUNCTION)) {
             insertIntoEquation(view, IDC_FPLOT_FUNCTIONS);
@@ -143,25 +142,13 @@ private:
 
     void optionButton(DialogContext& context, int button) {
         DialogView& view = context.view;
-        int code = directCodeOf(button, spec_.id);
-        if (!code) {
-            const std::string_view menu = popupMenuOf(button, spec_.id);
-            if (menu.empty()) return;
-            PopupRequest request;
-            request.owner = view.handle();
-            request.menuName = std::string(menu);
-            request.anchorControl = button;
-            request.states = menuItemStates(button, facts(context));
-            code = ui().popupMenu(request);
-        }
-        if (code == kTransposeItem) {
-            transposed_ = !transposed_;
-            return;
-        }
-        if (!code) return;
-        ParentState parent{spec_.id, view.handle(), oneWVariable(view)};
-        runOptionDialog(parent, code);
-        if (code == 2015) showWVariables(view);
+        OptionButtonPress press;
+        press.buttonId = button;
+        press.parent = {spec_.id, view.handle(), oneWVariable(view)};
+        press.facts = facts(context);
+        const OptionButtonResult result = pressOptionButton(press);
+        if (result.code == kTransposeItem) transposed_ = !transposed_;
+        if (result.code == 2015) showWVariables(view);
     }
 
     MenuFacts facts(DialogContext& context) const {

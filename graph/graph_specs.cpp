@@ -228,9 +228,4 @@ const GraphSpec* graphSpec(int id) {
     return nullptr;
 }
 
-std::span<const int> optionCodesOf(int dialogId) {
-    const GraphSpec* spec = graphSpec(dialogId);
-    return spec ? spec->codes : std::span<const int>();
-}
-
 }  // namespace kvs::graph
