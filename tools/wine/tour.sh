@@ -4,7 +4,11 @@
 # the transcript of the tour in tour.txt.
 #
 #   tools/wine/tour.sh [OUTPUT_FOLDER]     (default build/tour)
+#   KVS_TOUR_DPI=144 tools/wine/tour.sh build/tour-150   (the dialogs at 150 %, in a prefix of their own)
 set -euo pipefail
+if [ -n "${KVS_TOUR_DPI:-}" ]; then
+  export WINEPREFIX="${WINEPREFIX:-$(cd "$(dirname "$0")/../.." && pwd)/build/wine-prefix-$KVS_TOUR_DPI}"
+fi
 . "$(dirname "$0")/env.sh"
 out="${1:-$kvs_root/build/tour}"
 mkdir -p "$out"
@@ -12,6 +16,10 @@ out="$(cd "$out" && pwd)"
 kvs_need_display "$0" "$out"
 [ -f "$KVS_WINE_DIR/KORVAN.exe" ] || { echo "tour: no $KVS_WINE_DIR/KORVAN.exe (run scripts/build.sh x86_64)" >&2; exit 2; }
 kvs_wine_prefix
+if [ -n "${KVS_TOUR_DPI:-}" ]; then
+  kvs_wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$KVS_TOUR_DPI" /f >/dev/null 2>&1
+  wineserver -w
+fi
 kvs_clean_temp
 rm -f "$out"/*.bmp "$out"/*.png "$out/tour.txt"
 kvs_wine "$KVS_WINE_DIR/KORVAN.exe" --tour "Z:${out//\//\\}"
