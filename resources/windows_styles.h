@@ -62,7 +62,9 @@
 #define CBS_DROPDOWN        0x0002L
 #define CBS_DROPDOWNLIST    0x0003L
 #define CBS_AUTOHSCROLL     0x0040L
+#define CBS_OWNERDRAWFIXED  0x0010L
 #define CBS_SORT            0x0100L
+#define CBS_HASSTRINGS      0x0200L
 #endif
 
 #endif

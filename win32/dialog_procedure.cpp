@@ -2,7 +2,9 @@
 
 #include "resources/common_ids.h"
 #include "win32/colour_grid_window.h"
+#include "win32/module_instance.h"
 #include "win32/owner_drawn_button.h"
+#include "win32/picture_combo.h"
 
 namespace kvs::win32 {
 
@@ -52,6 +54,9 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         auto* session = reinterpret_cast<DialogSession*>(lParam);
         return session && session->handler ? initialise(dialog, *session) : TRUE;
     }
+    // Entry heights are asked before WM_INITDIALOG.
+    if (message == WM_MEASUREITEM)
+        return lParam && measurePictureItem(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
     DialogSession* session = sessionOf(dialog);
     if (!session || !session->view) return FALSE;
     DialogView& view = *session->view;
@@ -69,8 +74,11 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_CLOSE:
         session->handler->onCommand(view, IDCANCEL, BN_CLICKED);
         return TRUE;
-    case WM_DRAWITEM:
-        return lParam && drawOwnerDrawnButton(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
+    case WM_DRAWITEM: {
+        if (!lParam) return FALSE;
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        return drawOwnerDrawnButton(item) || drawPictureItem(moduleInstance(), item) ? TRUE : FALSE;
+    }
     case kColourGridClick: {
         RECT client{};
         GetClientRect(GetDlgItem(dialog, static_cast<int>(wParam)), &client);

@@ -1,0 +1,87 @@
+#include "win32/picture_combo.h"
+
+#include <cstdio>
+#include <map>
+#include <string>
+
+#include "resources/graph_ids.h"
+
+namespace kvs::win32 {
+
+namespace {
+
+struct PictureList {
+    int id;
+    const char* prefix;  // the bitmap resources are prefix1, prefix2, ...
+    int height;          // of an entry, in pixels
+};
+
+constexpr PictureList kPictureLists[] = {
+    {IDC_SYMBOL_1, "symbol", 20},        {IDC_SYMBOL_2, "symbol", 20},        {IDC_SYMBOL_3, "symbol", 20},
+    {IDC_LINE_DASH1, "dash", 16},        {IDC_LINE_DASH2, "dash", 16},        {IDC_LINE_DASH3, "dash", 16},
+    {IDC_ALLAXES_AXES2D, "axes2d", 40},  {IDC_ALLAXES_SCALES2D, "axes2d", 40},
+    {IDC_ALLAXES_AXES3D, "axes3d", 40},  {IDC_ALLAXES_SCALES3D, "axes3d", 40},
+};
+
+const PictureList* pictureList(UINT id) {
+    for (const PictureList& list : kPictureLists)
+        if (static_cast<UINT>(list.id) == id) return &list;
+    return nullptr;
+}
+
+// The library's bitmaps by name, loaded once and kept for the process.
+HBITMAP picture(HMODULE module, const char* prefix, UINT position) {
+    static std::map<std::string, HBITMAP> loaded;
+    char name[32];
+    std::snprintf(name, sizeof name, "%s%u", prefix, position);
+    auto [it, made] = loaded.try_emplace(name, nullptr);
+    if (made) it->second = LoadBitmapA(module, name);
+    return it->second;
+}
+
+}  // namespace
+
+bool measurePictureItem(MEASUREITEMSTRUCT& item) {
+    if (item.CtlType != ODT_COMBOBOX) return false;
+    const PictureList* list = pictureList(item.CtlID);
+    if (!list) return false;
+    item.itemHeight = static_cast<UINT>(list->height);
+    return true;
+}
+
+bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item) {
+    if (item.CtlType != ODT_COMBOBOX || !item.hDC) return false;
+    const PictureList* list = pictureList(item.CtlID);
+    if (!list) return false;
+    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    RECT area = item.rcItem;
+    FillRect(item.hDC, &area, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    if (item.itemID == static_cast<UINT>(-1)) return true;
+    char text[64] = {};
+    const LRESULT length = SendMessageA(item.hwndItem, CB_GETLBTEXTLEN, item.itemID, 0);
+    if (length >= 0 && length < static_cast<LRESULT>(sizeof text))
+        SendMessageA(item.hwndItem, CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text));
+    int x = area.left + 3;
+    if (item.itemID > 0) {
+        if (const HBITMAP bitmap = picture(module, list->prefix, item.itemID)) {
+            BITMAP size{};
+            GetObjectA(bitmap, sizeof size, &size);
+            if (const HDC memory = CreateCompatibleDC(item.hDC)) {
+                const HGDIOBJ old = SelectObject(memory, bitmap);
+                const int top = area.top + (area.bottom - area.top - size.bmHeight) / 2;
+                BitBlt(item.hDC, x, top, size.bmWidth, size.bmHeight, memory, 0, 0, SRCCOPY);
+                SelectObject(memory, old);
+                DeleteDC(memory);
+                x += size.bmWidth + 6;
+            }
+        }
+    }
+    SetBkMode(item.hDC, TRANSPARENT);
+    SetTextColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    RECT textArea{x, area.top, area.right, area.bottom};
+    DrawTextA(item.hDC, text, -1, &textArea, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &area);
+    return true;
+}
+
+}  // namespace kvs::win32

@@ -1,0 +1,17 @@
+// Drop-down lists of the graph option sub-dialogs that show pictures beside
+// their entries: plot symbols, line styles and axis styles. The entries keep
+// their texts (the logic reads positions and texts as from any list); only
+// the drawing differs, so this lives with the windows.
+#pragma once
+
+#include <windows.h>
+
+namespace kvs::win32 {
+
+// The height of an entry of a picture list; false for other controls.
+bool measurePictureItem(MEASUREITEMSTRUCT& item);
+// Draws an entry: its picture (position p shows picture p of the set; the
+// first entry, "None" or "Automatic", has none) and its text.
+bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item);
+
+}  // namespace kvs::win32
