@@ -92,6 +92,12 @@ INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return m
 
 // Templates no StartDialog opens by itself: shown modeless under a procedure
 // that does nothing, just for their pictures.
+// A named callback, not a lambda: the 32-bit build needs the stdcall convention.
+BOOL CALLBACK collectTemplateName(HMODULE, LPCSTR, LPSTR name, LONG_PTR found) {
+    if (!IS_INTRESOURCE(name)) reinterpret_cast<std::vector<std::string>*>(found)->emplace_back(name);
+    return TRUE;
+}
+
 void Tour::pictureOfUnlisted() {
     struct Unlisted {
         const char* shotName;
@@ -106,13 +112,7 @@ void Tour::pictureOfUnlisted() {
     // Every other template no dialog of the tour showed: the option
     // sub-dialogs, under their template's own caption.
     std::vector<std::string> others;
-    EnumResourceNamesA(
-        library_.module(), RT_DIALOG,
-        [](HMODULE, LPCSTR, LPSTR name, LONG_PTR found) -> BOOL {
-            if (!IS_INTRESOURCE(name)) reinterpret_cast<std::vector<std::string>*>(found)->emplace_back(name);
-            return TRUE;
-        },
-        reinterpret_cast<LONG_PTR>(&others));
+    EnumResourceNamesA(library_.module(), RT_DIALOG, collectTemplateName, reinterpret_cast<LONG_PTR>(&others));
     std::vector<std::string> shotNames;
     for (const std::string& name : others) {
         if (shownTemplates_.count(name)) continue;
