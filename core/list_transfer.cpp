@@ -17,6 +17,9 @@ void addSelected(DialogView& view, const ListTransferRow& row, int capacity, Lis
     const int source = sourceListOf(view, row);
     const std::vector<int> picked = view.listSelection(source);
     if (picked.empty()) return;
+    // Redraw off while items move, so a list repaints once, not per item.
+    view.setRedraw(row.targetList, false);
+    view.setRedraw(source, false);
     std::unordered_set<std::string> present;
     const int existing = view.listCount(row.targetList);
     for (int i = 0; i < existing; ++i) present.insert(view.listText(row.targetList, i));
@@ -36,6 +39,8 @@ void addSelected(DialogView& view, const ListTransferRow& row, int capacity, Lis
         present.insert(std::move(name));
     }
     for (int index : picked) view.listSelect(source, index, false);
+    view.setRedraw(source, true);
+    view.setRedraw(row.targetList, true);
 }
 
 void removeSelected(DialogView& view, const ListTransferRow& row) {

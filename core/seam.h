@@ -74,6 +74,8 @@ public:
     virtual void listSelect(int id, int index, bool on) = 0;
     virtual void listSetCurrent(int id, int index) = 0;  // LB_SETCURSEL
     virtual void setRedraw(int id, bool on) = 0;
+    // Room for count more items ahead of filling a list (LB_INITSTORAGE).
+    virtual void listReserve(int id, std::size_t count) { (void)id, (void)count; }
 
     // Edit controls: the selection in characters, start <= end (the caret
     // when they are equal). Setting a text puts the caret at 0, as Windows
@@ -185,6 +187,13 @@ public:
     // Runs the named template modally under handler; returns the value given
     // to DialogView::end, or -1 when the template cannot be created.
     virtual int runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) = 0;
+    // The same, the window bearing caption from its creation instead of the
+    // template's (one template serves several titled sub-dialogs).
+    virtual int runModalTitled(WindowRef owner, std::string_view templateName, std::string_view caption,
+                               DialogHandler& handler) {
+        (void)caption;
+        return runModal(owner, templateName, handler);
+    }
     virtual int messageBox(const MessageRequest& request) = 0;
     // The chosen path, or nothing when the user cancelled.
     virtual std::optional<std::string> chooseFile(const FileRequest& request) = 0;

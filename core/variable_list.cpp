@@ -13,6 +13,11 @@ void VariableCatalogue::clear() {
     listed_.clear();
 }
 
+void VariableCatalogue::reserve(std::size_t count) {
+    names_.reserve(count);
+    listed_.reserve(count);
+}
+
 void VariableCatalogue::add(std::string name, bool listed) {
     const auto index = static_cast<std::int32_t>(names_.size());
     if (listed) listed_.emplace(name, index);
@@ -61,7 +66,10 @@ void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t
     INQKS_EX();
     const std::uintptr_t cursor = ui().beginWait();
     view.setRedraw(listId, false);
+    const auto room = static_cast<std::size_t>(std::max<std::int32_t>(count, 0));
+    view.listReserve(listId, room + 1);
     catalogue.clear();
+    catalogue.reserve(room);
     if (commandId == 46 || commandId == 677) view.listAdd(listId, "Case", how);
     const std::int32_t width = std::clamp<std::int32_t>(INQFML_EX(), 1, static_cast<std::int32_t>(kNameLength));
     std::int32_t added = 0;
@@ -69,15 +77,14 @@ void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t
         std::string name = kernelName(k, width);
         const bool skip = numericOnly && name.find('$') != std::string::npos;
         if (!skip && view.listAdd(listId, name, how) == kListNoSpace) {
+            if (added > 0) view.listSetCurrent(listId, 0);
             warnTooMany(view.handle(), added);
             break;
         }
         catalogue.add(std::move(name), !skip);
-        if (!skip) {
-            ++added;
-            view.listSetCurrent(listId, 0);
-        }
+        if (!skip) ++added;
     }
+    if (added > 0) view.listSetCurrent(listId, 0);
     view.setRedraw(listId, true);
     ui().endWait(cursor);
 }

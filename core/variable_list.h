@@ -19,6 +19,7 @@ inline constexpr std::size_t kNameLength = 12;
 class VariableCatalogue {
 public:
     void clear();
+    void reserve(std::size_t count);
     void add(std::string name, bool listed);
     // The index of a listed name, or -1.
     std::int32_t indexOf(std::string_view name) const;

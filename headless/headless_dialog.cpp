@@ -242,6 +242,11 @@ void HeadlessDialog::setRedraw(int id, bool on) {
     if (c != nullptr) c->redraw = on;
 }
 
+void HeadlessDialog::listReserve(int id, std::size_t count) {
+    ControlState* c = reachKind(id, ControlKind::ListBox);
+    if (c != nullptr) c->items.reserve(c->items.size() + count);
+}
+
 void HeadlessDialog::end(int result) {
     ended_ = true;
     result_ = result;

@@ -73,6 +73,7 @@ public:
     void listSelect(int id, int index, bool on) override;
     void listSetCurrent(int id, int index) override;
     void setRedraw(int id, bool on) override;
+    void listReserve(int id, std::size_t count) override;
     void comboAdd(int id, std::string_view text) override;
     void comboClear(int id) override;
     int comboSelection(int id) const override;

@@ -40,10 +40,7 @@ Kind kindOf(HWND control) {
     return Kind::Other;
 }
 
-HWND find(HWND dialog, int id, Kind kind) {
-    HWND control = GetDlgItem(dialog, id);
-    return control && kindOf(control) == kind ? control : nullptr;
-}
+HWND ofKind(HWND control, Kind kind) { return control && kindOf(control) == kind ? control : nullptr; }
 
 LRESULT send(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageA(control, message, wParam, lParam);
@@ -69,10 +66,26 @@ LPARAM textArgument(const std::string& text) { return reinterpret_cast<LPARAM>(t
 
 bool viewIsChangingControls() { return changingDepth > 0; }
 
-bool Win32DialogView::has(int id) const { return GetDlgItem(dialog_, id) != nullptr; }
+// GetDlgItem asks the window server for the dialog's children (under Wine a
+// round trip of tens of microseconds), and filling a list calls for a control
+// once per variable. A found control is remembered while it stays this
+// dialog's child with that id, which costs only local reads to check.
+HWND Win32DialogView::child(int id) const {
+    const auto known = controls_.find(id);
+    if (known != controls_.end()) {
+        const HWND window = known->second;
+        if (IsWindow(window) && GetParent(window) == dialog_ && GetDlgCtrlID(window) == id) return window;
+        controls_.erase(known);
+    }
+    const HWND window = GetDlgItem(dialog_, id);
+    if (window) controls_.emplace(id, window);
+    return window;
+}
+
+bool Win32DialogView::has(int id) const { return child(id) != nullptr; }
 
 ControlType Win32DialogView::controlType(int id) const {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     char name[32] = {};
     if (!control || GetClassNameA(control, name, static_cast<int>(sizeof name)) == 0) return ControlType::Other;
     if (lstrcmpiA(name, "Button") == 0) return ControlType::Button;
@@ -87,37 +100,37 @@ ControlType Win32DialogView::controlType(int id) const {
 
 // A drop-down list combo box answers with its selected item.
 std::string Win32DialogView::text(int id) const {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     return control ? windowText(control) : std::string();
 }
 
 // A drop-down list has no edit field: setting its text changes nothing.
 void Win32DialogView::setText(int id, std::string_view text) {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     if (!control || (kindOf(control) == Kind::ComboBox && dropList(control))) return;
     ChangingControls changing;
     SetWindowTextA(control, cString(text).c_str());
 }
 
 bool Win32DialogView::isEnabled(int id) const {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     return control && IsWindowEnabled(control);
 }
 
 void Win32DialogView::enable(int id, bool on) {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     if (!control) return;
     ChangingControls changing;
     EnableWindow(control, on ? TRUE : FALSE);
 }
 
 bool Win32DialogView::isChecked(int id) const {
-    HWND button = find(dialog_, id, Kind::Button);
+    HWND button = ofKind(child(id), Kind::Button);
     return button && isCheckableButton(button) && send(button, BM_GETCHECK) == BST_CHECKED;
 }
 
 void Win32DialogView::setChecked(int id, bool on) {
-    HWND button = find(dialog_, id, Kind::Button);
+    HWND button = ofKind(child(id), Kind::Button);
     if (!button || !isCheckableButton(button)) return;
     ChangingControls changing;
     send(button, BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED);
@@ -125,7 +138,7 @@ void Win32DialogView::setChecked(int id, bool on) {
 
 // A disabled control does not take the focus.
 void Win32DialogView::setFocus(int id) {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     if (!control || !IsWindowEnabled(control)) return;
     ChangingControls changing;
     SetFocus(control);
@@ -135,19 +148,19 @@ void Win32DialogView::setFocus(int id) {
 // List boxes
 
 int Win32DialogView::listCount(int id) const {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return 0;
     const LRESULT count = send(list, LB_GETCOUNT);
     return count > 0 ? static_cast<int>(count) : 0;
 }
 
 std::string Win32DialogView::listText(int id, int index) const {
-    return itemText(find(dialog_, id, Kind::ListBox), LB_GETTEXTLEN, LB_GETTEXT, index);
+    return itemText(ofKind(child(id), Kind::ListBox), LB_GETTEXTLEN, LB_GETTEXT, index);
 }
 
 // LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
 int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return kListError;
     const std::string item = cString(text);
     ChangingControls changing;
@@ -160,14 +173,14 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
 }
 
 void Win32DialogView::listDelete(int id, int index) {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list || !validIndex(list, LB_GETCOUNT, index)) return;
     ChangingControls changing;
     send(list, LB_DELETESTRING, static_cast<WPARAM>(index));
 }
 
 void Win32DialogView::listClear(int id) {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return;
     ChangingControls changing;
     send(list, LB_RESETCONTENT);
@@ -175,7 +188,7 @@ void Win32DialogView::listClear(int id) {
 
 // LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
 std::vector<int> Win32DialogView::listSelection(int id) const {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return {};
     if (!multiSelect(list)) {
         const LRESULT current = send(list, LB_GETCURSEL);
@@ -195,7 +208,7 @@ std::vector<int> Win32DialogView::listSelection(int id) const {
 // selecting makes the item the only selection; deselecting the selected
 // item (or -1) leaves none.
 void Win32DialogView::listSelect(int id, int index, bool on) {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return;
     ChangingControls changing;
     if (multiSelect(list)) {
@@ -211,7 +224,7 @@ void Win32DialogView::listSelect(int id, int index, bool on) {
 // LB_SETCURSEL: not for multi-select list boxes; -1 clears; an index out of
 // range changes nothing.
 void Win32DialogView::listSetCurrent(int id, int index) {
-    HWND list = find(dialog_, id, Kind::ListBox);
+    HWND list = ofKind(child(id), Kind::ListBox);
     if (!list || multiSelect(list)) return;
     if (index != -1 && !validIndex(list, LB_GETCOUNT, index)) return;
     ChangingControls changing;
@@ -219,7 +232,7 @@ void Win32DialogView::listSetCurrent(int id, int index) {
 }
 
 void Win32DialogView::setRedraw(int id, bool on) {
-    HWND control = GetDlgItem(dialog_, id);
+    HWND control = child(id);
     if (!control) return;
     ChangingControls changing;
     send(control, WM_SETREDRAW, on ? TRUE : FALSE);
@@ -229,11 +242,18 @@ void Win32DialogView::setRedraw(int id, bool on) {
     }
 }
 
+// Item storage and room for names of up to 16 characters.
+void Win32DialogView::listReserve(int id, std::size_t count) {
+    HWND list = ofKind(child(id), Kind::ListBox);
+    if (!list || count == 0) return;
+    send(list, LB_INITSTORAGE, static_cast<WPARAM>(count), static_cast<LPARAM>(count * 16));
+}
+
 // ---------------------------------------------------------------------------
 // Combo boxes
 
 void Win32DialogView::comboAdd(int id, std::string_view text) {
-    HWND combo = find(dialog_, id, Kind::ComboBox);
+    HWND combo = ofKind(child(id), Kind::ComboBox);
     if (!combo) return;
     const std::string item = cString(text);
     ChangingControls changing;
@@ -242,7 +262,7 @@ void Win32DialogView::comboAdd(int id, std::string_view text) {
 
 // CB_RESETCONTENT; the edit field is emptied too.
 void Win32DialogView::comboClear(int id) {
-    HWND combo = find(dialog_, id, Kind::ComboBox);
+    HWND combo = ofKind(child(id), Kind::ComboBox);
     if (!combo) return;
     ChangingControls changing;
     send(combo, CB_RESETCONTENT);
@@ -250,7 +270,7 @@ void Win32DialogView::comboClear(int id) {
 }
 
 int Win32DialogView::comboSelection(int id) const {
-    HWND combo = find(dialog_, id, Kind::ComboBox);
+    HWND combo = ofKind(child(id), Kind::ComboBox);
     if (!combo) return -1;
     const LRESULT current = send(combo, CB_GETCURSEL);
     return current < 0 ? -1 : static_cast<int>(current);
@@ -259,7 +279,7 @@ int Win32DialogView::comboSelection(int id) const {
 // CB_SETCURSEL copies the item into the edit field; -1 or an index out of
 // range clears both the selection and the edit field.
 void Win32DialogView::comboSelect(int id, int index) {
-    HWND combo = find(dialog_, id, Kind::ComboBox);
+    HWND combo = ofKind(child(id), Kind::ComboBox);
     if (!combo) return;
     ChangingControls changing;
     if (!validIndex(combo, CB_GETCOUNT, index)) index = -1;
@@ -270,7 +290,7 @@ void Win32DialogView::comboSelect(int id, int index) {
 // Edit controls
 
 std::pair<int, int> Win32DialogView::editSelection(int id) const {
-    HWND edit = find(dialog_, id, Kind::Edit);
+    HWND edit = ofKind(child(id), Kind::Edit);
     if (!edit) return {0, 0};
     DWORD start = 0, end = 0;
     send(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
@@ -278,7 +298,7 @@ std::pair<int, int> Win32DialogView::editSelection(int id) const {
 }
 
 void Win32DialogView::setEditSelection(int id, int start, int end) {
-    HWND edit = find(dialog_, id, Kind::Edit);
+    HWND edit = ofKind(child(id), Kind::Edit);
     if (!edit) return;
     ChangingControls changing;
     send(edit, EM_SETSEL, static_cast<WPARAM>(start), static_cast<LPARAM>(end));
@@ -288,7 +308,7 @@ void Win32DialogView::setEditSelection(int id, int start, int end) {
 // The dialog itself
 
 void Win32DialogView::limitText(int id, std::size_t count) {
-    SendDlgItemMessageA(dialog_, id, EM_LIMITTEXT, static_cast<WPARAM>(count), 0);
+    if (HWND edit = child(id)) send(edit, EM_LIMITTEXT, static_cast<WPARAM>(count));
 }
 
 void Win32DialogView::setCaption(std::string_view text) { SetWindowTextA(dialog_, cString(text).c_str()); }

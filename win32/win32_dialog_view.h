@@ -1,10 +1,12 @@
 // DialogView over a real dialog window: every operation is a message to a
-// child control found by id. Ids the dialog does not have, or controls of
+// child control found by id (and remembered). Ids the dialog does not have, or controls of
 // another kind than the operation needs, do nothing and read as empty, as
 // in the headless twin.
 #pragma once
 
 #include <windows.h>
+
+#include <unordered_map>
 
 #include "core/seam.h"
 
@@ -35,6 +37,7 @@ public:
     void listSelect(int id, int index, bool on) override;
     void listSetCurrent(int id, int index) override;
     void setRedraw(int id, bool on) override;
+    void listReserve(int id, std::size_t count) override;
 
     void comboAdd(int id, std::string_view text) override;
     void comboClear(int id) override;
@@ -49,7 +52,10 @@ public:
     void end(int result) override;
 
 private:
+    HWND child(int id) const;
+
     HWND dialog_;
+    mutable std::unordered_map<int, HWND> controls_;
 };
 
 // True while a view is changing a control. Notifications the controls send

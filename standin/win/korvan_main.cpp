@@ -3,9 +3,12 @@
 //   KORVAN.exe                               the demo host
 //   KORVAN.exe --scenario OUT.txt FILE.scn...  runs scenarios, transcripts to OUT.txt
 //   KORVAN.exe --tour FOLDER                 screenshots of every dialog
+//   KORVAN.exe --bench OUT.txt [N...]        times the library against a plain list box
+#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "standin/win/bench.h"
 #include "standin/win/demo_host.h"
 #include "standin/win/scenario_driver.h"
 #include "standin/win/tour.h"
@@ -16,5 +19,11 @@ int main(int argc, char** argv) {
     if (args[0] == "--scenario" && args.size() >= 2)
         return kvs::standin::runScenarioFiles(args[1], {args.begin() + 2, args.end()});
     if (args[0] == "--tour" && args.size() == 2) return kvs::standin::runTour(args[1]);
+    if (args[0] == "--bench" && args.size() >= 2) {
+        std::vector<int> counts;
+        for (std::size_t i = 2; i < args.size(); ++i) counts.push_back(std::atoi(args[i].c_str()));
+        if (counts.empty()) counts = {1000, 10000, 100000};
+        return kvs::standin::runBenchmark(args[1], counts);
+    }
     return 2;
 }
