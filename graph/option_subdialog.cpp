@@ -69,7 +69,6 @@ public:
           values_(record ? record->values : defaultValues(form_)) {}
 
     int onInit(DialogView& view) override {
-        view.setCaption(sub_.title);
         view.centre();
         fillCombos(view, form_.combos);
         if (view.has(IDC_SOURCE)) {
@@ -187,7 +186,7 @@ bool runOptionDialog(const ParentState& parent, int code) {
     if (sub.kind == OptionKind::None) return false;
     OptionRecord* record = optionRecord(parent.dialogId, code);
     OptionSubDialog handler(parent, code, record);
-    const int result = ui().runModal(parent.window, sub.templateName, handler);
+    const int result = ui().runModalTitled(parent.window, sub.templateName, sub.title, handler);
     if (result <= 0 || !record) return false;
     record->set = true;
     return true;

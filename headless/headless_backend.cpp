@@ -103,6 +103,7 @@ WindowKind HeadlessBackend::topKind() {
     if (!window) return WindowKind::None;
     if (window->dialog) return WindowKind::Dialog;
     if (window->font) return WindowKind::FontChooser;
+    if (window->menu) return WindowKind::Menu;
     return window->message ? WindowKind::Message : WindowKind::Chooser;
 }
 
@@ -112,6 +113,7 @@ std::string HeadlessBackend::topText() {
     if (window->dialog) return window->dialog->dialog->caption();
     if (window->message) return window->message->request.text;
     if (window->font) return HeadlessUi::kFontChooserTitle;
+    if (window->menu) return {};  // a popup menu has no title
     return window->chooser->request.title;
 }
 
@@ -221,6 +223,22 @@ Buttons HeadlessBackend::messageButtons() {
     case MessageButtons::Ok: break;
     }
     return Buttons::Ok;
+}
+
+std::vector<scenario::MenuEntry> HeadlessBackend::menuItems() {
+    const auto window = ui_.top();
+    std::vector<scenario::MenuEntry> items;
+    if (!window || !window->menu) return items;
+    for (const MenuItem& item : window->menu->items)
+        items.push_back({item.id, scenario::shownMenuText(item.text), !item.enabled, item.checked});
+    return items;
+}
+
+void HeadlessBackend::pickMenuItem(int id) {
+    const auto window = ui_.top();
+    if (!window || !window->menu) return;
+    window->menu->picked = id;
+    window->menu->answered = true;
 }
 
 void HeadlessBackend::answerMessage(int buttonId) {

@@ -39,6 +39,8 @@ public:
     void chooseEntry(int id, int index) override;
     void sysCommand(int code) override;
     scenario::Buttons messageButtons() override;
+    std::vector<scenario::MenuEntry> menuItems() override;
+    void pickMenuItem(int id) override;
     void answerMessage(int buttonId) override;
     void answerChooser(const std::optional<std::string>& path) override;
     void clickAt(int id, int x, int y) override;

@@ -1,5 +1,6 @@
 #include "headless/headless_ui.h"
 
+#include <algorithm>
 #include <cstring>
 
 #include "resources/progress_ids.h"
@@ -55,6 +56,9 @@ void HeadlessUi::dismissTop() {
         DialogWindow& d = *window.dialog;
         d.handler->onCommand(*d.dialog, kIdCancel, kButtonClicked);
         if (!d.dialog->ended()) d.dialog->end(kIdCancel);
+    } else if (window.menu) {
+        window.menu->answered = true;
+        window.menu->picked = 0;
     } else if (window.message) {
         window.message->answer = window.message->request.buttons == MessageButtons::YesNo ? kIdNo
                                  : window.message->request.buttons == MessageButtons::OkCancel ? kIdCancel
@@ -68,10 +72,17 @@ void HeadlessUi::dismissTop() {
     }
 }
 
-int HeadlessUi::runModal(WindowRef, std::string_view templateName, DialogHandler& handler) {
+int HeadlessUi::runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) {
+    const DialogTemplate* found = resources_.dialog(templateName);
+    return found ? runModalTitled(owner, templateName, found->caption, handler) : -1;
+}
+
+int HeadlessUi::runModalTitled(WindowRef, std::string_view templateName, std::string_view caption,
+                               DialogHandler& handler) {
     const DialogTemplate* found = resources_.dialog(templateName);
     if (!found) return -1;
     DialogWindow window{std::make_unique<HeadlessDialog>(*found), &handler};
+    window.dialog->setCaption(caption);
     watchControls(*window.dialog);
     transcript_(scenario::dialogLine(window.dialog->caption()));
     stack_.push_back(Window{&window, nullptr, nullptr, nullptr});
@@ -260,6 +271,32 @@ std::optional<KvsLogFont> HeadlessUi::chooseFont(const FontRequest& request) {
     pumpUntil([&] { return window.answered; });
     stack_.pop_back();
     return window.font;
+}
+
+// The items of the menu's first popup; nested popups and separators are not
+// items a user picks.
+int HeadlessUi::popupMenu(const PopupRequest& request) {
+    const MenuTemplate* menu = resources_.menu(request.menuName);
+    if (!menu) return 0;
+    const auto popup = std::find_if(menu->items.begin(), menu->items.end(), [](const MenuItem& i) { return i.popup; });
+    if (popup == menu->items.end()) return 0;
+    MenuWindow window{request.menuName, {}};
+    for (const MenuItem& item : popup->children) {
+        if (item.separator || item.popup) continue;
+        MenuItem shown = item;
+        for (const PopupItemState& state : request.states) {
+            if (state.commandId != item.id) continue;
+            shown.enabled = !state.greyed;
+            shown.checked = state.checked;
+        }
+        window.items.push_back(std::move(shown));
+    }
+    Window top;
+    top.menu = &window;
+    stack_.push_back(top);
+    pumpUntil([&] { return window.answered; });
+    stack_.pop_back();
+    return window.picked;
 }
 
 }  // namespace kvs::headless

@@ -49,11 +49,20 @@ struct FontWindow {
     std::optional<KvsLogFont> font;
 };
 
+// A popup menu that is up: its items as shown (states set), and the pick.
+struct MenuWindow {
+    std::string name;
+    std::vector<MenuItem> items;
+    bool answered = false;
+    int picked = 0;  // the command id; 0 when dismissed
+};
+
 struct Window {
     DialogWindow* dialog = nullptr;
     MessageWindow* message = nullptr;
     ChooserWindow* chooser = nullptr;
     FontWindow* font = nullptr;
+    MenuWindow* menu = nullptr;
 };
 
 using TranscriptSink = std::function<void(const std::string&)>;
@@ -77,6 +86,8 @@ public:
     void dismissTop();
 
     int runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    int runModalTitled(WindowRef owner, std::string_view templateName, std::string_view caption,
+                       DialogHandler& handler) override;
     int messageBox(const MessageRequest& request) override;
     std::optional<std::string> chooseFile(const FileRequest& request) override;
     void help(const HelpRequest& request) override;
@@ -92,6 +103,9 @@ public:
     std::uint32_t systemColour(SystemColour which) override;
     int screenPixelsPerInchY() override { return kPixelsPerInch; }
     std::optional<KvsLogFont> chooseFont(const FontRequest& request) override;
+    // The menu is a window of the stack until an item is picked or it is
+    // dismissed; it prints no transcript line of its own.
+    int popupMenu(const PopupRequest& request) override;
 
     // The screen of the headless backend: 96 pixels per inch, as Wine's.
     static constexpr int kPixelsPerInch = 96;

@@ -6,11 +6,13 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <vector>
 
 #include "core/file_filters.h"
 #include "win32/dialog_procedure.h"
 #include "win32/modeless_dialog.h"
 #include "win32/numeric_field_window.h"
+#include "win32/titled_template.h"
 #include "win32/module_instance.h"
 
 namespace kvs::win32 {
@@ -79,6 +81,24 @@ int Win32Ui::runModal(WindowRef owner, std::string_view templateName, DialogHand
     session.handler = &handler;
     const INT_PTR result = DialogBoxParamA(instance, name.c_str(), windowOf(owner), libraryDialogProcedure,
                                            reinterpret_cast<LPARAM>(&session));
+    return static_cast<int>(result);
+}
+
+int Win32Ui::runModalTitled(WindowRef owner, std::string_view templateName, std::string_view caption,
+                            DialogHandler& handler) {
+    const std::string name(templateName);
+    HINSTANCE instance = dialogInstance();
+    HRSRC found = FindResourceA(instance, name.c_str(), kDialogResourceType);
+    HGLOBAL loaded = found ? LoadResource(instance, found) : nullptr;
+    const auto* bytes = loaded ? static_cast<const std::uint8_t*>(LockResource(loaded)) : nullptr;
+    if (!bytes) return -1;
+    const std::vector<std::uint8_t> titled = titledTemplate(bytes, SizeofResource(instance, found), caption);
+    if (titled.empty()) return runModal(owner, templateName, handler);
+    DialogSession session;
+    session.handler = &handler;
+    const INT_PTR result =
+        DialogBoxIndirectParamA(instance, reinterpret_cast<const DLGTEMPLATE*>(titled.data()), windowOf(owner),
+                                libraryDialogProcedure, reinterpret_cast<LPARAM>(&session));
     return static_cast<int>(result);
 }
 

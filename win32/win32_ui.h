@@ -8,6 +8,8 @@ namespace kvs::win32 {
 class Win32Ui : public UiServices {
 public:
     int runModal(WindowRef owner, std::string_view templateName, DialogHandler& handler) override;
+    int runModalTitled(WindowRef owner, std::string_view templateName, std::string_view caption,
+                       DialogHandler& handler) override;
     int messageBox(const MessageRequest& request) override;
     std::optional<std::string> chooseFile(const FileRequest& request) override;
     void help(const HelpRequest& request) override;

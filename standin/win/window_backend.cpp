@@ -62,6 +62,7 @@ WindowKind WindowBackend::topKind() {
 
 std::string WindowBackend::topText() {
     const HWND top = topDialogWindow();
+    if (isMenuWindow(top)) return {};
     return roleOf(top, library_.module()) == WindowKind::Message ? messageText(top) : windowText(top);
 }
 
@@ -270,6 +271,88 @@ bool WindowBackend::isModeless(HWND window) const {
     return procedure && GetWindowLongPtrA(window, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(procedure);
 }
 
+namespace {
+
+constexpr UINT kGetMenuHandle = 0x01E1;  // MN_GETHMENU: a popup menu window's menu
+
+HMENU shownMenu(HWND window) {
+    return isMenuWindow(window) ? reinterpret_cast<HMENU>(SendMessageA(window, kGetMenuHandle, 0, 0)) : nullptr;
+}
+
+struct RawItem {
+    UINT id = 0;
+    std::string text;  // with its "&"
+    UINT state = 0;
+    bool separator = false;
+    bool popup = false;
+};
+
+std::vector<RawItem> rawItems(HMENU menu) {
+    std::vector<RawItem> items;
+    const int count = menu ? GetMenuItemCount(menu) : 0;
+    for (int i = 0; i < count; ++i) {
+        char text[256] = {};
+        MENUITEMINFOA info{};
+        info.cbSize = sizeof info;
+        info.fMask = MIIM_ID | MIIM_STATE | MIIM_FTYPE | MIIM_SUBMENU | MIIM_STRING;
+        info.dwTypeData = text;
+        info.cch = sizeof text - 1;
+        if (!GetMenuItemInfoA(menu, static_cast<UINT>(i), TRUE, &info)) continue;
+        items.push_back({info.wID, text, info.fState, (info.fType & MFT_SEPARATOR) != 0, info.hSubMenu != nullptr});
+    }
+    return items;
+}
+
+// The letter after a lone "&", lower-cased; 0 when there is none.
+char mnemonicOf(const std::string& text) {
+    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != '&') continue;
+        const char c = text[i + 1];
+        if (c != '&') return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+        ++i;
+    }
+    return 0;
+}
+
+}  // namespace
+
+std::vector<scenario::MenuEntry> WindowBackend::menuItems() {
+    std::vector<scenario::MenuEntry> entries;
+    for (const RawItem& item : rawItems(shownMenu(topDialogWindow()))) {
+        if (item.separator || item.popup) continue;
+        entries.push_back({static_cast<int>(item.id), scenario::shownMenuText(item.text),
+                           (item.state & (MFS_GRAYED | MFS_DISABLED)) != 0, (item.state & MFS_CHECKED) != 0});
+    }
+    return entries;
+}
+
+// The menu's own loop takes the keys: the item's mnemonic when no other item
+// shares it, else the arrow down to the item and Enter.
+void WindowBackend::pickMenuItem(int id) {
+    const HWND window = topDialogWindow();
+    const std::vector<RawItem> items = rawItems(shownMenu(window));
+    int steps = 0;
+    const RawItem* target = nullptr;
+    for (const RawItem& item : items) {
+        if (item.separator) continue;
+        ++steps;
+        if (!item.popup && static_cast<int>(item.id) == id) {
+            target = &item;
+            break;
+        }
+    }
+    if (!target) return;
+    const char key = mnemonicOf(target->text);
+    int sharing = 0;
+    for (const RawItem& item : items) sharing += key && !item.separator && mnemonicOf(item.text) == key ? 1 : 0;
+    if (key && sharing == 1) {
+        PostMessageA(window, WM_CHAR, static_cast<WPARAM>(static_cast<unsigned char>(key)), 0);
+        return;
+    }
+    for (int i = 0; i < steps; ++i) PostMessageA(window, WM_KEYDOWN, VK_DOWN, 0);
+    PostMessageA(window, WM_KEYDOWN, VK_RETURN, 0);
+}
+
 void WindowBackend::dismissTop() {
     const HWND top = topDialogWindow();
     switch (roleOf(top, library_.module())) {
@@ -293,6 +376,7 @@ void WindowBackend::dismissTop() {
     }
     case WindowKind::Chooser: answerChooser(std::nullopt); break;
     case WindowKind::FontChooser: answerFont(std::nullopt); break;
+    case WindowKind::Menu: EndMenu(); break;
     case WindowKind::None: break;
     }
 }

@@ -45,6 +45,8 @@ public:
     void answerChooser(const std::optional<std::string>& path) override;
     void clickAt(int id, int x, int y) override;
     bool answerFont(const std::optional<scenario::FontAnswer>& font) override;
+    std::vector<scenario::MenuEntry> menuItems() override;
+    void pickMenuItem(int id) override;
     void dismissTop() override;
     std::optional<long> userWord() override;
 

@@ -15,6 +15,14 @@ bool hasClass(HWND window, const char* name) {
            lstrcmpiA(buffer.data(), name) == 0;
 }
 
+BOOL CALLBACK findMenu(HWND window, LPARAM found) {
+    if (isMenuWindow(window) && IsWindowVisible(window)) {
+        *reinterpret_cast<HWND*>(found) = window;
+        return FALSE;
+    }
+    return TRUE;
+}
+
 BOOL CALLBACK findTop(HWND window, LPARAM found) {
     if (isDialogWindow(window) && IsWindowVisible(window) && IsWindowEnabled(window)) {
         *reinterpret_cast<HWND*>(found) = window;
@@ -34,7 +42,10 @@ bool isDialogWindow(HWND window) {
     return window && hasClass(window, "#32770") && !(GetWindowLongA(window, GWL_STYLE) & WS_CHILD);
 }
 
+bool isMenuWindow(HWND window) { return window && hasClass(window, "#32768"); }
+
 scenario::WindowKind roleOf(HWND window, HMODULE library) {
+    if (isMenuWindow(window)) return scenario::WindowKind::Menu;
     if (!isDialogWindow(window)) return scenario::WindowKind::None;
     const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrA(window, GWLP_HINSTANCE));
     if (library && instance == library) return scenario::WindowKind::Dialog;
@@ -49,6 +60,9 @@ scenario::WindowKind roleOf(HWND window, HMODULE library) {
 
 HWND topDialogWindow() {
     HWND found = nullptr;
+    // A popup menu does not disable the dialog it belongs to, yet is above it.
+    EnumThreadWindows(GetCurrentThreadId(), findMenu, reinterpret_cast<LPARAM>(&found));
+    if (found) return found;
     EnumThreadWindows(GetCurrentThreadId(), findTop, reinterpret_cast<LPARAM>(&found));
     return found;
 }

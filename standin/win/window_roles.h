@@ -25,16 +25,18 @@ inline constexpr int kMessageTextId = 0xFFFF;
 inline constexpr int kMessageIconId = 0x440;
 
 bool isDialogWindow(HWND window);  // a top-level #32770
+bool isMenuWindow(HWND window);    // a popup menu (#32768)
 
-// What a #32770 is: a dialog when its instance is library (the module the
+// A popup menu is a menu. What a #32770 is: a dialog when its instance is library (the module the
 // library's templates come from), a file dialog when it has a file-name
 // field, the font dialog when it has the face and size combo boxes, a
 // message box when it has the message text static, and otherwise a dialog of
 // someone else's that statements still act on.
 scenario::WindowKind roleOf(HWND window, HMODULE library);
 
-// The topmost visible, enabled #32770 of this thread, or null. A modal window
-// disables its owner, so this is the window a user could act on.
+// The popup menu that is up, else the topmost visible, enabled #32770 of this
+// thread, or null. A modal window disables its owner, so this is the window a
+// user could act on.
 HWND topDialogWindow();
 
 using win32::windowText;

@@ -86,6 +86,7 @@ std::string Engine::describeTop() {
     case WindowKind::Message: return "message box " + quote(backend_.topText());
     case WindowKind::Chooser: return "file chooser " + quote(backend_.topText());
     case WindowKind::FontChooser: return "font chooser " + quote(backend_.topText());
+    case WindowKind::Menu: return "popup menu";
     case WindowKind::None: break;
     }
     return "nothing";
@@ -107,6 +108,7 @@ bool Engine::step() {
     case WindowKind::Message: actOnMessage(statement); break;
     case WindowKind::Chooser: actOnChooser(statement); break;
     case WindowKind::FontChooser: actOnFontChooser(statement); break;
+    case WindowKind::Menu: actOnMenu(statement); break;
     case WindowKind::None: fail(statement, "no window is open for '" + statement.keyword + "'"); break;
     }
     return true;
@@ -197,6 +199,16 @@ void Engine::actOnDialog(const Statement& s) {
         if (!id) fail(s, "no control " + quote(s.args[argument].text) + " in " + quote(backend_.topText()));
         return id;
     };
+    // A control a user cannot reach: missing from the dialog, or disabled.
+    auto enabledControl = [&](std::size_t argument) -> int {
+        const int id = needControl(argument);
+        if (!id) return 0;
+        if (!backend_.control(id)->enabled) {
+            fail(s, "control " + std::to_string(id) + " is disabled");
+            return 0;
+        }
+        return id;
+    };
     auto clickEnabled = [&](int id) {
         const auto control = backend_.control(id);
         if (!control) {
@@ -219,7 +231,7 @@ void Engine::actOnDialog(const Statement& s) {
         if (!control->checkable) fail(s, "control " + std::to_string(id) + " cannot be checked");
         else if (control->checked != (k == "check")) clickEnabled(id);
     } else if (k == "select") {
-        const int id = needControl(0);
+        const int id = enabledControl(0);
         if (!id) return;
         const auto indices = indicesOf(backend_.control(id), s.texts(1));
         if (!indices) fail(s, "list " + std::to_string(id) + " lacks a name");
@@ -254,18 +266,18 @@ void Engine::actOnDialog(const Statement& s) {
         backend_.selectItems(list, *indices);
         clickEnabled(k == "add" ? row->addButton : row->removeButton);
     } else if (k == "dblclick") {
-        const int id = needControl(0);
+        const int id = enabledControl(0);
         if (!id) return;
         const auto indices = s.args.size() == 2 ? indicesOf(backend_.control(id), {s.args[1].text}) : std::nullopt;
         if (!indices) fail(s, "dblclick needs a name of the list");
         else backend_.doubleClick(id, indices->front());
     } else if (k == "type") {
-        const int id = needControl(0);
+        const int id = enabledControl(0);
         if (!id) return;
         if (s.args.size() != 2) fail(s, "type needs a control and a text");
         else backend_.typeText(id, s.args[1].text);
     } else if (k == "typerepeat") {
-        const int id = needControl(0);
+        const int id = enabledControl(0);
         if (!id) return;
         const auto times = s.args.size() == 3 ? toNumber(s.args[2].text) : std::nullopt;
         if (!times || *times < 0 || !s.args[1].quoted) {
@@ -282,7 +294,7 @@ void Engine::actOnDialog(const Statement& s) {
         for (long i = 0; i < *times; ++i) text += s.args[1].text;
         backend_.typeText(id, text);
     } else if (k == "choose") {
-        const int id = needControl(0);
+        const int id = enabledControl(0);
         if (!id) return;
         const auto control = backend_.control(id);
         int entry = -1;
@@ -313,6 +325,8 @@ void Engine::actOnDialog(const Statement& s) {
         const auto code = s.args.empty() ? std::nullopt : toNumber(s.args[0].text);
         if (!code) fail(s, "syscommand takes a number");
         else backend_.sysCommand(static_cast<int>(*code));
+    } else if (k == "menu" || k == "showmenu") {
+        fail(s, "no menu is up in " + quote(backend_.topText()));
     } else {
         fail(s, "'" + k + "' does not act on a dialog");
     }
@@ -361,6 +375,57 @@ void Engine::actOnFontChooser(const Statement& s) {
         else return usage();
     }
     if (!backend_.answerFont(answer)) fail(s, "the font chooser does not offer " + quote(answer.face) + " in that style");
+}
+
+// menu CODE | menu "TEXT" | menu cancel | showmenu
+void Engine::actOnMenu(const Statement& s) {
+    const std::vector<MenuEntry> items = backend_.menuItems();
+    if (s.keyword == "showmenu" && s.args.empty()) {
+        for (const MenuEntry& item : items) {
+            std::string line = "menuitem " + std::to_string(item.id) + " " + quote(item.text);
+            if (item.greyed) line += " greyed";
+            if (item.checked) line += " checked";
+            emit_(line);
+        }
+        return;
+    }
+    // A statement the menu cannot take, or a pick it refuses, leaves the
+    // error line and closes the menu, so the statements after act on the
+    // dialog again.
+    if (s.keyword != "menu" || s.args.size() != 1) {
+        fail(s, "a menu is up: pick with menu CODE or menu \"TEXT\", close it with menu cancel");
+        backend_.dismissTop();
+        return;
+    }
+    const Token& which = s.args[0];
+    if (!which.quoted && which.text == "cancel") {
+        backend_.dismissTop();
+        return;
+    }
+    const std::optional<long long> number = which.quoted ? std::nullopt : toNumber(which.text);
+    const bool byCode = number.has_value();
+    const long long code = number.value_or(0);
+    const auto found = std::find_if(items.begin(), items.end(), [&](const MenuEntry& item) {
+        return byCode ? item.id == code : item.text == which.text;
+    });
+    if (found == items.end()) {
+        fail(s, "the menu has no item " + (byCode ? which.text : quote(which.text)));
+        backend_.dismissTop();
+    } else if (found->greyed) {
+        fail(s, "menu item " + std::to_string(found->id) + " " + quote(found->text) + " is greyed");
+        backend_.dismissTop();
+    } else {
+        backend_.pickMenuItem(found->id);
+    }
+}
+
+std::string shownMenuText(std::string_view text) {
+    std::string shown;
+    for (std::size_t i = 0; i < text.size() && text[i] != '\t'; ++i) {
+        if (text[i] == '&' && i + 1 < text.size()) ++i;
+        shown += text[i];
+    }
+    return shown;
 }
 
 }  // namespace kvs::scenario

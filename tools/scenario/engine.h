@@ -18,7 +18,7 @@ namespace kvs::scenario {
 
 struct LibraryExports;
 
-enum class WindowKind { None, Dialog, Message, Chooser, FontChooser };
+enum class WindowKind { None, Dialog, Message, Chooser, FontChooser, Menu };
 enum class ControlKind { Static, Button, Edit, ListBox, ComboBox, Other };
 enum class Buttons { Ok, OkCancel, YesNo };
 
@@ -32,6 +32,18 @@ struct ControlInfo {
     std::vector<std::string> items;  // list and combo box entries
     int comboSelection = -1;
 };
+
+// An item of a popup menu as the menu shows it: its text without the "&"
+// of its mnemonic.
+struct MenuEntry {
+    int id = 0;
+    std::string text;
+    bool greyed = false;
+    bool checked = false;
+};
+
+// A menu item's text as shown: "&&" is "&", a lone "&" marks the mnemonic.
+std::string shownMenuText(std::string_view text);
 
 // What a user picks in the font chooser.
 struct FontAnswer {
@@ -97,6 +109,10 @@ public:
     // Picks a font and presses OK, or cancels with nothing; false (and no
     // answer) when the chooser does not offer the face or style.
     virtual bool answerFont(const std::optional<FontAnswer>& font) = 0;
+    // The items of the popup menu that is up.
+    virtual std::vector<MenuEntry> menuItems() { return {}; }
+    // Picks the item with this command id from the menu that is up.
+    virtual void pickMenuItem(int id) { (void)id; }
     // Closes the topmost window as a user giving up would.
     virtual void dismissTop() = 0;
     // The topmost dialog's user word (the window's user data slot), where
@@ -128,6 +144,7 @@ private:
     void actOnMessage(const Statement& statement);
     void actOnChooser(const Statement& statement);
     void actOnFontChooser(const Statement& statement);
+    void actOnMenu(const Statement& statement);
     int controlId(const Token& token);
     void fail(const Statement& statement, const std::string& message);
     std::string describeTop();
