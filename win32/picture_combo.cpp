@@ -1,5 +1,6 @@
 #include "win32/picture_combo.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <string>
@@ -67,12 +68,18 @@ bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item) {
             BITMAP size{};
             GetObjectA(bitmap, sizeof size, &size);
             if (const HDC memory = CreateCompatibleDC(item.hDC)) {
+                // The closed list's field is lower than a list entry: there
+                // the picture is shrunk to fit, keeping its proportions.
+                const int room = std::max<int>(area.bottom - area.top - 2, 1);
+                const int height = std::min<int>(size.bmHeight, room);
+                const int width = size.bmHeight > 0 ? size.bmWidth * height / size.bmHeight : 0;
                 const HGDIOBJ old = SelectObject(memory, bitmap);
-                const int top = area.top + (area.bottom - area.top - size.bmHeight) / 2;
-                BitBlt(item.hDC, x, top, size.bmWidth, size.bmHeight, memory, 0, 0, SRCCOPY);
+                const int top = area.top + (area.bottom - area.top - height) / 2;
+                SetStretchBltMode(item.hDC, HALFTONE);
+                StretchBlt(item.hDC, x, top, width, height, memory, 0, 0, size.bmWidth, size.bmHeight, SRCCOPY);
                 SelectObject(memory, old);
                 DeleteDC(memory);
-                x += size.bmWidth + 6;
+                x += width + 6;
             }
         }
     }

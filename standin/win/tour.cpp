@@ -1,6 +1,7 @@
 #include "standin/win/tour.h"
 
 #include <cctype>
+#include <cstdint>
 #include <cstdio>
 #include <set>
 #include <string>
@@ -43,6 +44,10 @@ private:
     void onTick(HWND top);
     // Runs open, taking a picture of the first library dialog it shows.
     void visit(const std::string& shotName, const std::function<std::string()>& open);
+    // Opens a graph dialog, presses an option button and picks a menu item
+    // (none: the picture is of the menu), taking the picture of what is up
+    // at the end; dropDown, when not 0, is a combo box of it to drop down.
+    void visitRoute(const std::string& shotName, std::uint16_t dialog, int button, int code, int dropDown = 0);
     void pictureOfUnlisted();
     void pictureOfPictures();
     void showProgress();
@@ -58,6 +63,9 @@ private:
     std::set<std::string> shownTemplates_;  // upper case, as resource names are kept
     bool shot_ = true;
     int settle_ = 0;
+    std::vector<std::function<void()>> steps_;  // done one per tick before the picture
+    std::size_t step_ = 0;
+    HWND shotWindow_ = nullptr;  // what to picture instead of the top window
 };
 
 // A dialog's picture is named by its command id and template.
@@ -69,12 +77,20 @@ std::string shotNameOf(const KvsDialogEntry& row) {
 
 void Tour::onTick(HWND top) {
     if (!top) return;
+    if (!shot_ && step_ < steps_.size()) {
+        steps_[step_++]();
+        settle_ = 0;
+        return;
+    }
     const scenario::WindowKind kind = roleOf(top, library_.module());
-    const bool pictured = kind == scenario::WindowKind::Dialog || kind == scenario::WindowKind::FontChooser;
+    const bool pictured = kind == scenario::WindowKind::Dialog || kind == scenario::WindowKind::FontChooser ||
+                          kind == scenario::WindowKind::Menu;
     if (pictured && !shot_) {
         if (++settle_ < kSettleTicks) return;
         const std::string path = outDir_ + "\\" + shotName_ + ".bmp";
-        if (!saveWindowBitmap(top, path)) emit(scenario::errorLine("cannot save " + path));
+        const HWND shown = shotWindow_ && IsWindowVisible(shotWindow_) ? shotWindow_ : top;
+        shotWindow_ = nullptr;
+        if (!saveWindowBitmap(shown, path)) emit(scenario::errorLine("cannot save " + path));
         shot_ = true;
     }
     backend_.dismissTop();
@@ -86,6 +102,26 @@ void Tour::visit(const std::string& shotName, const std::function<std::string()>
     settle_ = 0;
     emit(open());
     shot_ = true;
+}
+
+void Tour::visitRoute(const std::string& shotName, std::uint16_t dialog, int button, int code, int dropDown) {
+    steps_ = {[this, button] { backend_.click(button); }};
+    if (code) steps_.push_back([this, code] { backend_.pickMenuItem(code); });
+    // A dropped-down list is a window of its own: it is what is pictured.
+    if (dropDown)
+        steps_.push_back([this, dropDown] {
+            const HWND combo = GetDlgItem(topDialogWindow(), dropDown);
+            SendMessageA(combo, CB_SHOWDROPDOWN, TRUE, 0);
+            COMBOBOXINFO info{};
+            info.cbSize = sizeof info;
+            if (GetComboBoxInfo(combo, &info)) shotWindow_ = info.hwndList;
+        });
+    step_ = 0;
+    visit(shotName, [&] {
+        return "StartDialog " + std::to_string(dialog) + " = " +
+               std::to_string(library_.startDialog(dialog, owner_, kSampleHelpFile));
+    });
+    steps_.clear();
 }
 
 INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
@@ -193,6 +229,18 @@ int Tour::run() {
                    std::to_string(library_.startDialog(row.commandId, owner_, kSampleHelpFile));
         });
     }
+    // Sub-dialogs as their menus open them: titled by their code, with the
+    // lists that draw pictures beside their entries.
+    visitRoute("route-0101-AxesMenu", 101, 502, 0);
+    visitRoute("route-0101-YAxis", 101, 502, 2002);
+    visitRoute("route-0101-AllAxes", 101, 502, 2004);
+    visitRoute("route-0101-AllAxes-2D", 101, 502, 2004, 60);
+    visitRoute("route-0101-AllAxes-3D", 101, 502, 2004, 62);
+    visitRoute("route-0101-SymbolAndLabel", 101, 503, 2007);
+    visitRoute("route-0101-SymbolAndLabel-list", 101, 503, 2007, 82);
+    visitRoute("route-0101-SurfaceLineStyle", 101, 503, 2008);
+    visitRoute("route-0101-SurfaceLineStyle-list", 101, 503, 2008, 93);
+    visitRoute("route-0109-LineStyle", 109, 512, 2008);
     // The dialogs the host opens through exports of their own.
     const scenario::LibraryExports& exports = library_.exports();
     if (exports.doSaveDataOptionsDlg)

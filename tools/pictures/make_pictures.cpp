@@ -301,45 +301,53 @@ void leftAndBottom(Canvas& c) {
     c.line(L, T, L, B);
     c.line(L, B, R, B);
 }
-void grid(Canvas& c) {
-    for (int x = L + 7; x < R; x += 7) c.dotted(x, T + 1, x, B - 1, kGrey);
-    for (int y = B - 5; y > T; y -= 5) c.dotted(L + 1, y, R - 1, y, kGrey);
-}
 void someData(Canvas& c) {
     const Point points[] = {{14, 23}, {19, 19}, {25, 20}, {30, 13}, {36, 10}};
     for (const Point& p : points) c.rect(static_cast<int>(p.x), static_cast<int>(p.y), static_cast<int>(p.x) + 1, static_cast<int>(p.y) + 1);
 }
 
+// In the order of the list: Box, L, U, C, Vertical, Horizontal, Bottom, Top,
+// Left, Right, Cross, None.
 const std::vector<Draw>& axes2d() {
     static const std::vector<Draw> list = {
-        [](Canvas& c) { frame(c); ticksBottom(c, B, 1); ticksLeft(c, L, 1); },     // 1 box, ticks out
-        [](Canvas& c) { frame(c); },                                              // 2 box, no ticks
-        [](Canvas& c) { leftAndBottom(c); ticksBottom(c, B, 1); ticksLeft(c, L, 1); },  // 3 L axes, ticks
-        [](Canvas& c) { leftAndBottom(c); },                                      // 4 L axes, no ticks
-        [](Canvas& c) { frame(c); grid(c); ticksBottom(c, B, 1); ticksLeft(c, L, 1); },  // 5 box with grid
-        [](Canvas& c) { leftAndBottom(c); grid(c); ticksBottom(c, B, 1); ticksLeft(c, L, 1); },  // 6 L with grid
-        [](Canvas& c) {                                                           // 7 crossed, ticks
+        [](Canvas& c) { frame(c); ticksBottom(c, B, 1); ticksLeft(c, L, 1); },  // Box
+        [](Canvas& c) { leftAndBottom(c); ticksBottom(c, B, 1); ticksLeft(c, L, 1); },  // L
+        [](Canvas& c) {  // U: left, bottom and right
+            leftAndBottom(c);
+            c.line(R, T, R, B);
+            ticksBottom(c, B, 1);
+            ticksLeft(c, L, 1);
+        },
+        [](Canvas& c) {  // C: top, left and bottom
+            leftAndBottom(c);
+            c.line(L, T, R, T);
+            ticksBottom(c, B, 1);
+            ticksLeft(c, L, 1);
+        },
+        [](Canvas& c) {  // Vertical: left and right
+            c.line(L, T, L, B);
+            c.line(R, T, R, B);
+            ticksLeft(c, L, 1);
+            someData(c);
+        },
+        [](Canvas& c) {  // Horizontal: top and bottom
+            c.line(L, T, R, T);
+            c.line(L, B, R, B);
+            ticksBottom(c, B, 1);
+            someData(c);
+        },
+        [](Canvas& c) { c.line(L, B, R, B); ticksBottom(c, B, 1); someData(c); },  // Bottom
+        [](Canvas& c) { c.line(L, T, R, T); ticksBottom(c, T, -1); someData(c); }, // Top
+        [](Canvas& c) { c.line(L, T, L, B); ticksLeft(c, L, 1); someData(c); },    // Left
+        [](Canvas& c) { c.line(R, T, R, B); ticksLeft(c, R, -1); someData(c); },   // Right
+        [](Canvas& c) {                                                            // Cross
             const int cx = (L + R) / 2, cy = (T + B) / 2;
             c.line(L, cy, R, cy);
             c.line(cx, T, cx, B);
             for (int x = L + 2; x <= R; x += 7) c.line(x, cy - 1, x, cy + 1);
             for (int y = T + 2; y <= B; y += 5) c.line(cx - 1, y, cx + 1, y);
         },
-        [](Canvas& c) {                                                           // 8 crossed, no ticks
-            const int cx = (L + R) / 2, cy = (T + B) / 2;
-            c.line(L, cy, R, cy);
-            c.line(cx, T, cx, B);
-        },
-        [](Canvas& c) {                                                           // 9 box, ticks inside all round
-            frame(c);
-            ticksBottom(c, B, -1);
-            ticksBottom(c, T, 1);
-            ticksLeft(c, L, -1);
-            ticksLeft(c, R, 1);
-        },
-        [](Canvas& c) { c.line(L, B, R, B); ticksBottom(c, B, 1); someData(c); }, // 10 X axis only
-        [](Canvas& c) { c.line(L, T, L, B); ticksLeft(c, L, 1); someData(c); },  // 11 Y axis only
-        [](Canvas& c) { someData(c); },                                           // 12 no axes
+        [](Canvas& c) { someData(c); },                                            // None
     };
     return list;
 }
@@ -375,21 +383,6 @@ void backWalls(Canvas& c, const Box& k) {
     edge(c, k.f00, k.f01);
     edge(c, k.f01, k.b01);
 }
-void floorGrid(Canvas& c, const Box& k) {
-    for (int i = 1; i < 4; ++i) {
-        const double t = i / 4.0;
-        edge(c, {k.f00.x + t * (k.f10.x - k.f00.x), k.f00.y}, {k.b00.x + t * (k.b10.x - k.b00.x), k.b00.y}, true, kGrey);
-        edge(c, {k.f00.x + t * DX, k.f00.y + t * DY}, {k.f10.x + t * DX, k.f10.y + t * DY}, true, kGrey);
-    }
-}
-void wallGrid(Canvas& c, const Box& k) {
-    for (int i = 1; i < 4; ++i) {
-        const double t = i / 4.0;
-        const double y = k.b00.y + t * (k.b01.y - k.b00.y);
-        edge(c, {k.b00.x, y}, {k.b10.x, y}, true, kGrey);
-        edge(c, {k.f00.x + t * DX, k.f00.y + t * DY}, {k.f01.x + t * DX, k.f01.y + t * DY}, true, kGrey);
-    }
-}
 void cornerAxes(Canvas& c, const Box& k, bool ticks) {
     edge(c, k.f00, k.f10);  // x
     edge(c, k.f00, k.f01);  // z (up)
@@ -412,9 +405,10 @@ void floatingData(Canvas& c) {
     for (const auto& p : points) c.rect(p[0], p[1], p[0] + 1, p[1] + 1);
 }
 
+// In the order of the list: Box, L, Book, Corner, Fork, Spoon, Cross, None.
 const std::vector<Draw>& axes3d() {
     static const std::vector<Draw> list = {
-        [](Canvas& c) {  // 1 full box, the three hidden edges dotted
+        [](Canvas& c) {  // Box: the three hidden edges dotted
             const Box k;
             edge(c, k.b00, k.b01, true);
             edge(c, k.b00, k.b10, true);
@@ -429,13 +423,30 @@ const std::vector<Draw>& axes3d() {
             edge(c, k.f01, k.f11);
             edge(c, k.f11, k.b11);
         },
-        [](Canvas& c) { const Box k; floorOf(c, k); backWalls(c, k); },                // 2 open box: floor and back walls
-        [](Canvas& c) { const Box k; floorOf(c, k); },                                 // 3 floor only
-        [](Canvas& c) { const Box k; cornerAxes(c, k, true); },                        // 4 corner axes with ticks
-        [](Canvas& c) { const Box k; cornerAxes(c, k, false); },                       // 5 corner axes
-        [](Canvas& c) { const Box k; floorOf(c, k); floorGrid(c, k); },                // 6 floor with grid
-        [](Canvas& c) { const Box k; floorOf(c, k); backWalls(c, k); floorGrid(c, k); wallGrid(c, k); },  // 7 walls with grid
-        [](Canvas& c) { floatingData(c); },                                            // 8 no axes
+        [](Canvas& c) {  // L: the floor and the back wall
+            const Box k;
+            floorOf(c, k);
+            edge(c, k.b00, k.b01);
+            edge(c, k.b10, k.b11);
+            edge(c, k.b01, k.b11);
+        },
+        [](Canvas& c) { const Box k; floorOf(c, k); backWalls(c, k); },  // Book: floor and two walls
+        [](Canvas& c) { const Box k; cornerAxes(c, k, true); },          // Corner: three axes at the front
+        [](Canvas& c) {  // Fork: three axes from the back corner
+            const Box k;
+            edge(c, k.b00, k.b10);
+            edge(c, k.b00, k.b01);
+            edge(c, k.b00, k.f00);
+        },
+        [](Canvas& c) { const Box k; floorOf(c, k); edge(c, k.f00, k.f01); },  // Spoon: the floor and one upright
+        [](Canvas& c) {  // Cross: three axes through the middle
+            const Box k;
+            const Point m{(k.f00.x + k.b11.x) / 2, (k.f00.y + k.b11.y) / 2};
+            edge(c, {m.x - 14, m.y}, {m.x + 14, m.y});
+            edge(c, {m.x, m.y - 12}, {m.x, m.y + 12});
+            edge(c, {m.x - DX / 2.0, m.y - DY / 2.0}, {m.x + DX / 2.0, m.y + DY / 2.0});
+        },
+        [](Canvas& c) { floatingData(c); },  // None
     };
     return list;
 }
