@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <set>
 #include <string>
 
 #include "core/dialog_behaviour.h"
@@ -127,11 +128,16 @@ private:
         return -1;  // no limit
     }
 
+    // A name the target list holds already is not added twice.
     void add(DialogView& view, int target) {
         int left = room(view, target);
+        std::set<std::string> present;
+        for (int i = 0, n = view.listCount(target); i < n; ++i) present.insert(view.listText(target, i));
         for (int index : view.listSelection(IDC_SOURCE)) {
             if (left == 0) break;
-            view.listAdd(target, view.listText(IDC_SOURCE, index), listInsertRule());
+            std::string name = view.listText(IDC_SOURCE, index);
+            if (!present.insert(name).second) continue;
+            view.listAdd(target, name, listInsertRule());
             if (left > 0) --left;
         }
         if (const int count = view.listCount(target); count > 0) view.listSetCurrent(target, count - 1);
