@@ -6,14 +6,16 @@
 #include <cstdint>
 #include <vector>
 
+
 #include "core/dispatch_table.h"
+#include "core/global_memory.h"
 
 namespace kvs {
 
 // Variable indices (0-based positions in the data file), -1 for an empty
 // entry, used entries first.
 struct SelectionArray {
-    std::vector<std::int32_t> entries;
+    GlobalIndices entries;  // in global memory
     bool exists = false;
 
     // Entries before the first -1, at most capacity.

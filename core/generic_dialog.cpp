@@ -97,7 +97,7 @@ int GenericDialog::onInit(DialogView& view) {
     // While the dialog runs the arrays are empty; OK rebuilds them from the
     // lists and Cancel puts the backups back.
     for (Target& target : targets_) {
-        target.backup = target.array->entries;
+        target.backup.assign(target.array->entries.begin(), target.array->entries.end());
         std::fill(target.array->entries.begin(), target.array->entries.end(), -1);
     }
 
@@ -141,7 +141,7 @@ void GenericDialog::close(DialogView& view, int result) {
     closing_ = true;
     INQFMV_EX();
     if (result == kIdCancel) {
-        for (Target& target : targets_) target.array->entries = target.backup;
+        for (Target& target : targets_) target.array->entries.assign(target.backup.begin(), target.backup.end());
         if (behaviour_) {
             DialogContext context{view, *this};
             behaviour_->cancel(context);

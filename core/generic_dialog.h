@@ -35,7 +35,7 @@ private:
         int listId;
         SelectionArray* array;
         std::int32_t capacity;
-        std::vector<std::int32_t> backup;
+        std::vector<std::int32_t> backup;  // a working copy, not kept memory
     };
 
     // Capacity of a target list in this dialog; 0 when the list is not used.

@@ -76,6 +76,31 @@ public:
     virtual void setRedraw(int id, bool on) = 0;
     // Room for count more items ahead of filling a list (LB_INITSTORAGE).
     virtual void listReserve(int id, std::size_t count) { (void)id, (void)count; }
+    // Adds texts in order, as listAdd each would; stops at the first the
+    // list has no room for. How many were added, and whether it ran out of room.
+    struct ListAddResult {
+        std::size_t added = 0;
+        bool noSpace = false;
+    };
+    virtual ListAddResult listAddAll(int id, const std::vector<std::string_view>& texts, ListInsert how) {
+        ListAddResult result;
+        for (std::string_view text : texts) {
+            if (listAdd(id, text, how) == kListNoSpace) {
+                result.noSpace = true;
+                break;
+            }
+            ++result.added;
+        }
+        return result;
+    }
+    // Every item's text, in order.
+    virtual std::vector<std::string> listTexts(int id) const {
+        std::vector<std::string> texts;
+        const int count = listCount(id);
+        texts.reserve(static_cast<std::size_t>(count > 0 ? count : 0));
+        for (int i = 0; i < count; ++i) texts.push_back(listText(id, i));
+        return texts;
+    }
 
     // Edit controls: the selection in characters, start <= end (the caret
     // when they are equal). Setting a text puts the caret at 0, as Windows

@@ -24,6 +24,14 @@ void VariableCatalogue::add(std::string name, bool listed) {
     names_.push_back(std::move(name));
 }
 
+void VariableCatalogue::truncate(std::size_t size) {
+    for (std::size_t i = size; i < names_.size(); ++i) {
+        const auto it = listed_.find(names_[i]);
+        if (it != listed_.end() && static_cast<std::size_t>(it->second) == i) listed_.erase(it);
+    }
+    if (size < names_.size()) names_.resize(size);
+}
+
 std::int32_t VariableCatalogue::indexOf(std::string_view name) const {
     auto it = listed_.find(std::string(name));
     return it == listed_.end() ? -1 : it->second;
@@ -72,19 +80,24 @@ void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t
     catalogue.reserve(room);
     if (commandId == 46 || commandId == 677) view.listAdd(listId, "Case", how);
     const std::int32_t width = std::clamp<std::int32_t>(INQFML_EX(), 1, static_cast<std::int32_t>(kNameLength));
-    std::int32_t added = 0;
+    std::vector<std::int32_t> shown;  // catalogue positions of the names the list shows
+    shown.reserve(room);
     for (std::int32_t k = 1; k <= count; ++k) {
         std::string name = kernelName(k, width);
         const bool skip = numericOnly && name.find('$') != std::string::npos;
-        if (!skip && view.listAdd(listId, name, how) == kListNoSpace) {
-            if (added > 0) view.listSetCurrent(listId, 0);
-            warnTooMany(view.handle(), added);
-            break;
-        }
+        if (!skip) shown.push_back(static_cast<std::int32_t>(catalogue.size()));
         catalogue.add(std::move(name), !skip);
-        if (!skip) ++added;
     }
-    if (added > 0) view.listSetCurrent(listId, 0);
+    std::vector<std::string_view> texts;
+    texts.reserve(shown.size());
+    for (std::int32_t position : shown) texts.push_back(catalogue.nameAt(position));
+    const DialogView::ListAddResult result = view.listAddAll(listId, texts, how);
+    if (result.added > 0) view.listSetCurrent(listId, 0);
+    if (result.noSpace) {
+        // The catalogue ends where the list does.
+        catalogue.truncate(static_cast<std::size_t>(shown[result.added]));
+        warnTooMany(view.handle(), static_cast<std::int32_t>(result.added));
+    }
     view.setRedraw(listId, true);
     ui().endWait(cursor);
 }
@@ -109,7 +122,7 @@ void fillListFromFile(DialogView& view, const std::string& fileName, int listId,
     }
 }
 
-void restoreSelection(DialogView& view, const std::vector<std::int32_t>& entries, std::int32_t capacity,
+void restoreSelection(DialogView& view, const GlobalIndices& entries, std::int32_t capacity,
                       int targetId, const VariableCatalogue& catalogue) {
     const std::size_t n = std::min<std::size_t>(entries.size(), static_cast<std::size_t>(std::max(capacity, 0)));
     for (std::size_t i = 0; i < n && entries[i] != -1; ++i) {
@@ -119,13 +132,13 @@ void restoreSelection(DialogView& view, const std::vector<std::int32_t>& entries
 }
 
 void storeSelection(const DialogView& view, int targetId, std::int32_t capacity,
-                    const VariableCatalogue& catalogue, std::vector<std::int32_t>& entries) {
+                    const VariableCatalogue& catalogue, GlobalIndices& entries) {
     const std::size_t room = std::min<std::size_t>(entries.size(), static_cast<std::size_t>(std::max(capacity, 0)));
     std::fill_n(entries.begin(), room, -1);
-    const int count = view.listCount(targetId);
     std::size_t stored = 0;
-    for (int i = 0; i < count && stored < room; ++i) {
-        const std::int32_t index = catalogue.indexOf(view.listText(targetId, i));
+    for (const std::string& name : view.listTexts(targetId)) {
+        if (stored >= room) break;
+        const std::int32_t index = catalogue.indexOf(name);
         if (index >= 0) entries[stored++] = index;
     }
 }

@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "core/global_memory.h"
 #include "core/seam.h"
 
 namespace kvs {
@@ -21,6 +22,8 @@ public:
     void clear();
     void reserve(std::size_t count);
     void add(std::string name, bool listed);
+    // Forgets the names from index size on.
+    void truncate(std::size_t size);
     // The index of a listed name, or -1.
     std::int32_t indexOf(std::string_view name) const;
     // The name at an index, or empty when out of range.
@@ -48,12 +51,12 @@ void fillListFromFile(DialogView& view, const std::string& fileName, int listId,
                       VariableCatalogue* catalogue);
 
 // Puts the names of a saved selection into a target list, in saved order.
-void restoreSelection(DialogView& view, const std::vector<std::int32_t>& entries, std::int32_t capacity,
+void restoreSelection(DialogView& view, const GlobalIndices& entries, std::int32_t capacity,
                       int targetId, const VariableCatalogue& catalogue);
 
 // Writes the names of a target list back as indices, at most capacity of
 // them; names the catalogue does not know are passed over.
 void storeSelection(const DialogView& view, int targetId, std::int32_t capacity,
-                    const VariableCatalogue& catalogue, std::vector<std::int32_t>& entries);
+                    const VariableCatalogue& catalogue, GlobalIndices& entries);
 
 }  // namespace kvs

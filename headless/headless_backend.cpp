@@ -1,6 +1,9 @@
 #include "headless/headless_backend.h"
 
+#include <cstdlib>
+
 #include "core/command_queue.h"
+#include "core/global_memory.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
 #include "families/library.h"
@@ -276,11 +279,23 @@ bool HeadlessBackend::answerFont(const std::optional<scenario::FontAnswer>& font
     return true;
 }
 
+namespace {
+
+// The library's global memory under the stand-in kernel's fault hook.
+void* globalAllocate(std::size_t bytes) {
+    return standin::KernelState::instance().takeAllocation() ? std::calloc(bytes ? bytes : 1, 1) : nullptr;
+}
+
+void globalRelease(void* block) { std::free(block); }
+
+}  // namespace
+
 HeadlessRunner::HeadlessRunner(const ResourceSet& resources)
     : ui_(resources, [this](const std::string& line) { emit(line); }),
       backend_(ui_),
       engine_(backend_, [this](const std::string& line) { emit(line); }) {
     ui_.setDriver(Driver{[this] { return engine_.step(); }, [this] { engine_.windowLeftOpen(); }});
+    setGlobalMemory({globalAllocate, globalRelease});
 }
 
 void HeadlessRunner::emit(const std::string& line) {

@@ -12,6 +12,19 @@ using scenario::quote;
 
 namespace {
 
+// A window of the stack while a modal loop runs; taken off however the loop
+// ends, an exception from a dialog's logic included.
+class Stacked {
+public:
+    Stacked(std::vector<Window>& stack, Window window) : stack_(stack) { stack_.push_back(window); }
+    ~Stacked() { stack_.pop_back(); }
+    Stacked(const Stacked&) = delete;
+    Stacked& operator=(const Stacked&) = delete;
+
+private:
+    std::vector<Window>& stack_;
+};
+
 const char* iconName(MessageIcon icon) {
     switch (icon) {
     case MessageIcon::Stop: return "stop";
@@ -85,11 +98,10 @@ int HeadlessUi::runModalTitled(WindowRef, std::string_view templateName, std::st
     window.dialog->setCaption(caption);
     watchControls(*window.dialog);
     transcript_(scenario::dialogLine(window.dialog->caption()));
-    stack_.push_back(Window{&window, nullptr, nullptr, nullptr});
+    const Stacked stacked(stack_, Window{&window, nullptr, nullptr, nullptr});
     const int focus = handler.onInit(*window.dialog);
     (void)focus;
     pumpUntil([&] { return window.dialog->ended(); });
-    stack_.pop_back();
     return window.dialog->result();
 }
 
@@ -172,18 +184,16 @@ int HeadlessUi::messageBox(const MessageRequest& request) {
     MessageWindow window{request, 0};
     const std::string caption = request.caption ? *request.caption : kDefaultMessageCaption;
     transcript_(scenario::messageLine(caption, iconName(request.icon), request.text));
-    stack_.push_back(Window{nullptr, &window, nullptr, nullptr});
+    const Stacked stacked(stack_, Window{nullptr, &window, nullptr, nullptr});
     pumpUntil([&] { return window.answer != 0; });
-    stack_.pop_back();
     return window.answer;
 }
 
 std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
     ChooserWindow window{request, false, std::nullopt};
     transcript_(scenario::chooserLine(request.save, request.title, shownName(request.initialName)));
-    stack_.push_back(Window{nullptr, nullptr, &window, nullptr});
+    const Stacked stacked(stack_, Window{nullptr, nullptr, &window, nullptr});
     pumpUntil([&] { return window.answered; });
-    stack_.pop_back();
     if (!window.path) return std::nullopt;
     std::string path = withDefaultExtension(*window.path, addedExtension(request));
     if (path.size() >= request.capacity) path.resize(request.capacity - 1);
@@ -267,9 +277,8 @@ std::optional<KvsLogFont> HeadlessUi::chooseFont(const FontRequest& request) {
     const int points = (height * 72 + kPixelsPerInch / 2) / kPixelsPerInch;
     transcript_(scenario::fontChooserLine(kFontChooserTitle, face, std::to_string(points),
                                           request.okText.empty() ? "OK" : request.okText));
-    stack_.push_back(Window{nullptr, nullptr, nullptr, &window});
+    const Stacked stacked(stack_, Window{nullptr, nullptr, nullptr, &window});
     pumpUntil([&] { return window.answered; });
-    stack_.pop_back();
     return window.font;
 }
 
@@ -293,9 +302,8 @@ int HeadlessUi::popupMenu(const PopupRequest& request) {
     }
     Window top;
     top.menu = &window;
-    stack_.push_back(top);
+    const Stacked stacked(stack_, top);
     pumpUntil([&] { return window.answered; });
-    stack_.pop_back();
     return window.picked;
 }
 

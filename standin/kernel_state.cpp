@@ -13,9 +13,8 @@ KernelState& KernelState::instance() {
 void KernelState::setVariables(std::vector<std::string> names) { variables_ = std::move(names); }
 
 void* KernelState::reallocate(void** block, std::int32_t count, std::int32_t elementSize) {
-    ++allocations_;
     void* old = block ? *block : nullptr;
-    const bool fail = failCountdown_ > 0 && --failCountdown_ == 0;
+    const bool fail = !takeAllocation();
     const std::size_t size = count > 0 && elementSize > 0
                                  ? static_cast<std::size_t>(count) * static_cast<std::size_t>(elementSize)
                                  : 0;

@@ -19,7 +19,14 @@ public:
     const std::vector<std::string>& variables() const { return variables_; }
 
     // Allocation calls from now on: the nth one (1 = the next) fails; 0: none.
+    // The kernel's reallocations and the library's global memory (through
+    // takeAllocation) count alike.
     void failAllocation(int nth) { failCountdown_ = nth; }
+    // Counts one allocation; false when it is the one to fail.
+    bool takeAllocation() {
+        ++allocations_;
+        return !(failCountdown_ > 0 && --failCountdown_ == 0);
+    }
     void* reallocate(void** block, std::int32_t count, std::int32_t elementSize);
     void release(void** block);
 

@@ -1,6 +1,7 @@
 // Load and unload notifications of kvs_dlg.dll.
 #include <windows.h>
 
+#include "core/global_memory.h"
 #include "families/library.h"
 #include "core/seam.h"
 #include "win32/colour_grid_window.h"
@@ -11,7 +12,13 @@
 
 namespace {
 
+// Fixed rather than movable global memory: an array keeps its block for as
+// long as it lives, as a movable block locked throughout would.
+void* globalAllocate(std::size_t bytes) { return GlobalAlloc(GMEM_FIXED | GMEM_ZEROINIT, bytes ? bytes : 1); }
+void globalRelease(void* block) { GlobalFree(block); }
+
 void attach(HINSTANCE instance) {
+    kvs::setGlobalMemory({globalAllocate, globalRelease});
     kvs::win32::registerMicroscroll(instance);
     kvs::win32::setModuleInstance(instance);
     kvs::win32::createGraphPalette();

@@ -242,6 +242,48 @@ void Win32DialogView::setRedraw(int id, bool on) {
     }
 }
 
+// One look-up of the list for all the texts: a variable list is filled and
+// read back whole.
+Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, const std::vector<std::string_view>& texts,
+                                                           ListInsert how) {
+    ListAddResult result;
+    HWND list = ofKind(child(id), Kind::ListBox);
+    if (!list) return result;
+    ChangingControls changing;
+    const UINT message = how == ListInsert::Sorted ? LB_ADDSTRING : LB_INSERTSTRING;
+    const WPARAM at = how == ListInsert::Sorted ? 0 : static_cast<WPARAM>(-1);
+    std::string item;
+    for (std::string_view text : texts) {
+        item.assign(text.substr(0, text.find('\0')));
+        if (send(list, message, at, textArgument(item)) == LB_ERRSPACE) {
+            result.noSpace = true;
+            break;
+        }
+        ++result.added;
+    }
+    return result;
+}
+
+std::vector<std::string> Win32DialogView::listTexts(int id) const {
+    std::vector<std::string> texts;
+    HWND list = ofKind(child(id), Kind::ListBox);
+    const LRESULT count = list ? send(list, LB_GETCOUNT) : 0;
+    if (count <= 0) return texts;
+    texts.reserve(static_cast<std::size_t>(count));
+    std::string buffer(64, '\0');
+    for (LRESULT i = 0; i < count; ++i) {
+        const LRESULT length = send(list, LB_GETTEXTLEN, static_cast<WPARAM>(i));
+        if (length <= 0) {
+            texts.emplace_back();
+            continue;
+        }
+        if (static_cast<std::size_t>(length) + 1 > buffer.size()) buffer.resize(static_cast<std::size_t>(length) + 1);
+        const LRESULT got = send(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(buffer.data()));
+        texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, length)));
+    }
+    return texts;
+}
+
 // Item storage and room for names of up to 16 characters.
 void Win32DialogView::listReserve(int id, std::size_t count) {
     HWND list = ofKind(child(id), Kind::ListBox);

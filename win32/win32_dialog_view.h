@@ -38,6 +38,8 @@ public:
     void listSetCurrent(int id, int index) override;
     void setRedraw(int id, bool on) override;
     void listReserve(int id, std::size_t count) override;
+    ListAddResult listAddAll(int id, const std::vector<std::string_view>& texts, ListInsert how) override;
+    std::vector<std::string> listTexts(int id) const override;
 
     void comboAdd(int id, std::string_view text) override;
     void comboClear(int id) override;

@@ -17,6 +17,8 @@ void KVS_CALL KvsStandinSetVariables(int32_t count, const char* const* names) {
 
 void KVS_CALL KvsStandinFailAllocation(int32_t nth) { KernelState::instance().failAllocation(nth); }
 
+int32_t KVS_CALL KvsStandinTakeAllocation(void) { return KernelState::instance().takeAllocation() ? 1 : 0; }
+
 int32_t KVS_CALL KvsStandinLiveBlocks(void) { return static_cast<int32_t>(KernelState::instance().liveBlocks()); }
 
 void KVS_CALL KvsStandinReset(void) { KernelState::instance().reset(); }

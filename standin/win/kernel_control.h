@@ -13,6 +13,9 @@ extern "C" {
 void KVS_CALL KvsStandinSetVariables(int32_t count, const char* const* names);
 // Allocation calls from now on: the nth one (1 = the next) fails; 0: none.
 void KVS_CALL KvsStandinFailAllocation(int32_t nth);
+// Counts an allocation the library makes elsewhere (its global memory) under
+// the same countdown; 0 when it is the one to fail.
+int32_t KVS_CALL KvsStandinTakeAllocation(void);
 // Blocks handed out by reallocate_mem_ex and not yet released.
 int32_t KVS_CALL KvsStandinLiveBlocks(void);
 // Releases every live block and forgets the variables and all settings.

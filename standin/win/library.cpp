@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "standin/win/global_alloc_hook.h"
+
 namespace kvs::standin {
 
 namespace {
@@ -69,6 +71,8 @@ bool Library::load(std::string& error) {
         resolve(module_, "ReinitDialogs", exports_.reinitDialogs, error) &&
         resolve(module_, "SetDlgSortList", exports_.setDlgSortList, error)) {
         findOthers(module_, exports_);
+        // failalloc reaches the library's global memory too.
+        hookGlobalAlloc(module_);
         return true;
     }
     unload();

@@ -152,8 +152,8 @@ TEST(Descriptors, SelectionResetFillsTheUsedPartAndCanFree) {
     d->second.exists = true;
     d->resetMarker = 5;
     kvs::resetSelection(*d, false, 2);
-    EXPECT_EQ(d->first.entries, (std::vector<std::int32_t>{-1, -1, -1, 0, 0, 0}));
-    EXPECT_EQ(d->second.entries, (std::vector<std::int32_t>{-1, -1}));
+    EXPECT_EQ(d->first.entries, (kvs::GlobalIndices{-1, -1, -1, 0, 0, 0}));
+    EXPECT_EQ(d->second.entries, (kvs::GlobalIndices{-1, -1}));
     EXPECT_EQ(d->defaultsMarker, 1);
     EXPECT_EQ(d->resetMarker, 0);
     EXPECT_EQ(d->allocated, 1);

@@ -67,12 +67,12 @@ TEST_F(StartDialogTest, FirstUseAllocatesArraysSizedByTheFile) {
     StartDialog(72, nullptr, "");
     ASSERT_EQ(sort->allocated, 1);
     EXPECT_EQ(sort->firstCapacity, 5) << "the table's 10 becomes the file's count";
-    EXPECT_EQ(sort->first.entries, (std::vector<std::int32_t>{-1, -1, -1, -1, -1, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(sort->second.entries, (std::vector<std::int32_t>{-1})) << "mode 1: one entry";
+    EXPECT_EQ(sort->first.entries, (kvs::GlobalIndices{-1, -1, -1, -1, -1, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(sort->second.entries, (kvs::GlobalIndices{-1})) << "mode 1: one entry";
 
     kvs::Descriptor* post = kvs::descriptorFor(260);  // mode 0
     StartDialog(260, nullptr, "");
-    EXPECT_EQ(post->first.entries, (std::vector<std::int32_t>{-1, 0}));
+    EXPECT_EQ(post->first.entries, (kvs::GlobalIndices{-1, 0}));
     EXPECT_EQ(post->second.entries.size(), 256u);
 
     // A later, larger file counts only after a reinitialisation frees the arrays.

@@ -77,9 +77,9 @@ TEST_F(VariableFillTest, TargetListsRoundTripThroughSelectionArrays) {
     dialog.listAdd(10, "Z", kvs::ListInsert::Append);
     dialog.listAdd(10, "NOSUCH", kvs::ListInsert::Append);
     dialog.listAdd(10, "X", kvs::ListInsert::Append);
-    std::vector<std::int32_t> entries(6, 0);
+    kvs::GlobalIndices entries(6, 0);
     kvs::storeSelection(dialog, 10, 3, catalogue, entries);
-    EXPECT_EQ(entries, (std::vector<std::int32_t>{2, 0, -1, 0, 0, 0})) << "unknown names are passed over";
+    EXPECT_EQ(entries, (kvs::GlobalIndices{2, 0, -1, 0, 0, 0})) << "unknown names are passed over";
 
     dialog.listClear(10);
     kvs::restoreSelection(dialog, entries, 3, 10, catalogue);

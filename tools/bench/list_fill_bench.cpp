@@ -56,7 +56,7 @@ int main() {
         const double fill = millisecondsSince(start);
 
         for (const std::string& name : names) dialog.listAdd(10, name, kvs::ListInsert::Append);
-        std::vector<std::int32_t> entries(static_cast<std::size_t>(2 * count), 0);
+        kvs::GlobalIndices entries(static_cast<std::size_t>(2 * count), 0);
         start = std::chrono::steady_clock::now();
         kvs::storeSelection(dialog, 10, count, catalogue, entries);
         const double store = millisecondsSince(start);
