@@ -141,7 +141,10 @@ void GenericDialog::close(DialogView& view, int result) {
     closing_ = true;
     INQFMV_EX();
     if (result == kIdCancel) {
-        for (Target& target : targets_) target.array->entries.assign(target.backup.begin(), target.backup.end());
+        // An array ReinitDialogs released meanwhile stays released.
+        for (Target& target : targets_)
+            if (target.array->entries.size() == target.backup.size())
+                std::copy(target.backup.begin(), target.backup.end(), target.array->entries.begin());
         if (behaviour_) {
             DialogContext context{view, *this};
             behaviour_->cancel(context);

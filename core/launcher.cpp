@@ -35,6 +35,21 @@ bool allocateArrays(Descriptor& d, const DispatchRow& row, std::int32_t position
     return true;
 }
 
+// The arrays of the lists a dialog keeps itself, made before it opens so that
+// running out of memory is told like the descriptor's own arrays.
+bool allocateOwnLists(const DispatchRow& row) {
+    if (!row.behaviour) return true;
+    try {
+        for (const OwnList& own : row.behaviour().ownLists()) {
+            if (!own.array || own.array->entries.size() >= static_cast<std::size_t>(own.capacity)) continue;
+            own.array->entries.resize(static_cast<std::size_t>(own.capacity), -1);
+        }
+    } catch (const std::bad_alloc&) {
+        return false;
+    }
+    return true;
+}
+
 class DialogUpGuard {
 public:
     explicit DialogUpGuard(bool& flag) : flag_(flag), previous_(flag) { flag_ = true; }
@@ -56,7 +71,7 @@ int launchDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner
         showStop(ui().focusWindow(), text::kOneDialog);
         return 0;
     }
-    if (!descriptor.allocated && !allocateArrays(descriptor, row, positions)) {
+    if ((!descriptor.allocated && !allocateArrays(descriptor, row, positions)) || !allocateOwnLists(row)) {
         showNoMemory(owner);
         return 0;
     }

@@ -28,8 +28,12 @@ void onLibraryLoad() {
 
 void onLibraryUnload() {
     queue::resetForLoad();
+    // What the dialogs remember besides their descriptors is freed with them.
+    dialogDefaults().apply(true);
     resetAllSelections(true);
     resetDescriptorsForLoad();
+    // The table points into the descriptors just made anew.
+    rebuildDialogDefaults();
     resetFileChoosers();
     library() = LibraryState{};
 }

@@ -281,12 +281,20 @@ bool HeadlessBackend::answerFont(const std::optional<scenario::FontAnswer>& font
 
 namespace {
 
+long globalBlocks = 0;
+
 // The library's global memory under the stand-in kernel's fault hook.
 void* globalAllocate(std::size_t bytes) {
-    return standin::KernelState::instance().takeAllocation() ? std::calloc(bytes ? bytes : 1, 1) : nullptr;
+    if (!standin::KernelState::instance().takeAllocation()) return nullptr;
+    void* block = std::calloc(bytes ? bytes : 1, 1);
+    if (block) ++globalBlocks;
+    return block;
 }
 
-void globalRelease(void* block) { std::free(block); }
+void globalRelease(void* block) {
+    --globalBlocks;
+    std::free(block);
+}
 
 }  // namespace
 
@@ -302,6 +310,8 @@ void HeadlessRunner::emit(const std::string& line) {
     transcript_ += line;
     transcript_ += '\n';
 }
+
+long HeadlessRunner::liveGlobalBlocks() { return globalBlocks; }
 
 std::string HeadlessRunner::run(std::string_view source) {
     transcript_.clear();

@@ -60,6 +60,8 @@ class HeadlessRunner {
 public:
     explicit HeadlessRunner(const ResourceSet& resources);
     std::string run(std::string_view source);
+    // Blocks of the library's global memory not yet released.
+    static long liveGlobalBlocks();
     // See HeadlessUi::setStrict.
     void setStrict(bool strict) { ui_.setStrict(strict); }
 

@@ -15,6 +15,7 @@ void KernelState::setVariables(std::vector<std::string> names) { variables_ = st
 void* KernelState::reallocate(void** block, std::int32_t count, std::int32_t elementSize) {
     void* old = block ? *block : nullptr;
     const bool fail = !takeAllocation();
+    if (fail) failedElementSize_ = elementSize;
     const std::size_t size = count > 0 && elementSize > 0
                                  ? static_cast<std::size_t>(count) * static_cast<std::size_t>(elementSize)
                                  : 0;
@@ -61,6 +62,7 @@ void KernelState::reset() {
     live_.clear();
     variables_.clear();
     allocations_ = frees_ = failCountdown_ = 0;
+    failedElementSize_ = -1;
 }
 
 }  // namespace kvs::standin

@@ -25,8 +25,13 @@ public:
     // Counts one allocation; false when it is the one to fail.
     bool takeAllocation() {
         ++allocations_;
-        return !(failCountdown_ > 0 && --failCountdown_ == 0);
+        const bool fails = failCountdown_ > 0 && --failCountdown_ == 0;
+        if (fails) failedElementSize_ = 0;
+        return !fails;
     }
+    // The element size of the kernel reallocation that was made to fail
+    // last; 0 for the library's global memory, -1 when none failed.
+    std::int32_t failedElementSize() const { return failedElementSize_; }
     void* reallocate(void** block, std::int32_t count, std::int32_t elementSize);
     void release(void** block);
 
@@ -51,6 +56,7 @@ private:
     int allocations_ = 0;
     int frees_ = 0;
     int failCountdown_ = 0;
+    std::int32_t failedElementSize_ = -1;
 };
 
 }  // namespace kvs::standin
