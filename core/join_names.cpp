@@ -2,13 +2,7 @@
 
 namespace kvs {
 
-Names listNames(const DialogView& view, int listId) {
-    const int count = view.listCount(listId);
-    Names names;
-    names.reserve(static_cast<std::size_t>(count > 0 ? count : 0));
-    for (int i = 0; i < count; ++i) names.push_back(view.listText(listId, i));
-    return names;
-}
+Names listNames(const DialogView& view, int listId) { return view.listTexts(listId); }
 
 int joinNames(const Names& names, CommandText& text, char separator) {
     int added = 0;

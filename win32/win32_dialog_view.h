@@ -6,7 +6,9 @@
 
 #include <windows.h>
 
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "core/seam.h"
 
@@ -58,6 +60,10 @@ private:
 
     HWND dialog_;
     mutable std::unordered_map<int, HWND> controls_;
+    // The texts of a list as read last, until the view changes that list: the
+    // library's lists change only through the view, and OK reads a long
+    // target list more than once (its selection array, then its command).
+    mutable std::unordered_map<int, std::vector<std::string>> readTexts_;
 };
 
 // True while a view is changing a control. Notifications the controls send
