@@ -25,5 +25,7 @@ echo "== stand-in host and scenarios under Wine"
 "$root/tools/wine/test.sh"
 echo "== the example C host under Wine"
 "$root/tools/wine/example_host.sh"
+echo "== fuzzing, bounded (tests/fuzz/run.sh SECONDS runs longer)"
+"$root/tests/fuzz/run.sh" 45
 echo "== release archives"
 "$root/scripts/release.sh" --check

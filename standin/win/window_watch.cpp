@@ -21,49 +21,71 @@ bool WindowWatch::start(HMODULE library, Sink sink, Tick tick) {
     tick_ = std::move(tick);
     current = this;
     const DWORD thread = GetCurrentThreadId();
-    before_ = SetWindowsHookExA(WH_CALLWNDPROC, beforeProcedure, nullptr, thread);
-    after_ = SetWindowsHookExA(WH_CALLWNDPROCRET, afterProcedure, nullptr, thread);
+    cbt_ = SetWindowsHookExA(WH_CBT, onCreate, nullptr, thread);
     timer_ = SetTimer(nullptr, 0, kTickMilliseconds, onTimer);
-    return before_ && after_ && timer_;
+    return cbt_ && timer_;
 }
 
 void WindowWatch::stop() {
     if (timer_) KillTimer(nullptr, timer_);
-    if (before_) UnhookWindowsHookEx(before_);
-    if (after_) UnhookWindowsHookEx(after_);
+    if (cbt_) UnhookWindowsHookEx(cbt_);
+    for (const auto& [window, original] : subclassed_)
+        if (IsWindow(window)) SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+    subclassed_.clear();
     timer_ = 0;
-    before_ = after_ = nullptr;
+    cbt_ = nullptr;
     opening_.clear();
     if (current == this) current = nullptr;
 }
 
-LRESULT CALLBACK WindowWatch::beforeProcedure(int code, WPARAM wParam, LPARAM lParam) {
-    const auto* call = reinterpret_cast<const CWPSTRUCT*>(lParam);
-    if (code == HC_ACTION && current && call->message == WM_INITDIALOG && isDialogWindow(call->hwnd)) {
-        current->opening_.push_back(Opening{call->hwnd, GetTickCount()});
-        const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrA(call->hwnd, GWLP_HINSTANCE));
-        if (current->library_ && instance == current->library_ && current->sink_)
-            current->sink_(scenario::dialogLine(windowText(call->hwnd)));
+LRESULT CALLBACK WindowWatch::onCreate(int code, WPARAM wParam, LPARAM lParam) {
+    if (code == HCBT_CREATEWND && current) {
+        const auto window = reinterpret_cast<HWND>(wParam);
+        const auto* create = reinterpret_cast<const CBT_CREATEWNDA*>(lParam);
+        char name[16] = {};
+        const bool dialogClass = GetClassNameA(window, name, sizeof name) > 0 && lstrcmpiA(name, "#32770") == 0;
+        if (dialogClass && create->lpcs && !(create->lpcs->style & WS_CHILD)) {
+            const auto original = reinterpret_cast<WNDPROC>(
+                SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&dialogProcedure)));
+            if (original) current->subclassed_[window] = original;
+        }
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-LRESULT CALLBACK WindowWatch::afterProcedure(int code, WPARAM wParam, LPARAM lParam) {
-    const auto* call = reinterpret_cast<const CWPRETSTRUCT*>(lParam);
-    if (code == HC_ACTION && current && current->sink_ && call->message == WM_INITDIALOG) {
-        const HWND window = call->hwnd;
-        switch (roleOf(window, current->library_)) {
-        case WindowKind::Message:
-            current->sink_(scenario::messageLine(windowText(window), messageIcon(window), messageText(window)));
-            break;
-        case WindowKind::FontChooser: current->sink_(fontChooserLine(window)); break;
-        case WindowKind::Chooser:
-            current->sink_(scenario::chooserLine(chooserSaves(window), windowText(window), chooserName(window)));
-            break;
-        default: break;
-        }
+LRESULT CALLBACK WindowWatch::dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    WindowWatch* watch = current;
+    const auto found = watch ? watch->subclassed_.find(window) : decltype(watch->subclassed_)::iterator{};
+    if (!watch || found == watch->subclassed_.end()) return DefWindowProcA(window, message, wParam, lParam);
+    const WNDPROC original = found->second;
+    if (message == WM_NCDESTROY) {
+        SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original));
+        watch->subclassed_.erase(found);
+        return CallWindowProcA(original, window, message, wParam, lParam);
     }
-    return CallNextHookEx(nullptr, code, wParam, lParam);
+    if (message != WM_INITDIALOG) return CallWindowProcA(original, window, message, wParam, lParam);
+    watch->beforeInit(window);
+    const LRESULT result = CallWindowProcA(original, window, message, wParam, lParam);
+    if (current == watch) watch->afterInit(window);
+    return result;
+}
+
+void WindowWatch::beforeInit(HWND window) {
+    opening_.push_back(Opening{window, GetTickCount()});
+    const auto instance = reinterpret_cast<HMODULE>(GetWindowLongPtrA(window, GWLP_HINSTANCE));
+    if (library_ && instance == library_ && sink_) sink_(scenario::dialogLine(windowText(window)));
+}
+
+void WindowWatch::afterInit(HWND window) {
+    if (!sink_) return;
+    switch (roleOf(window, library_)) {
+    case WindowKind::Message: sink_(scenario::messageLine(windowText(window), messageIcon(window), messageText(window))); break;
+    case WindowKind::FontChooser: sink_(fontChooserLine(window)); break;
+    case WindowKind::Chooser:
+        sink_(scenario::chooserLine(chooserSaves(window), windowText(window), chooserName(window)));
+        break;
+    default: break;
+    }
 }
 
 // A window between WM_INITDIALOG and its first showing is not ready for a

@@ -13,6 +13,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -33,16 +34,22 @@ public:
     ~WindowWatch() { stop(); }
 
 private:
-    static LRESULT CALLBACK beforeProcedure(int code, WPARAM wParam, LPARAM lParam);
-    static LRESULT CALLBACK afterProcedure(int code, WPARAM wParam, LPARAM lParam);
+    // A CBT hook sees each dialog window created and subclasses it, so that
+    // only the dialog windows' own messages pass through the watch: a message
+    // hook would see every message of the thread (each item a list box is
+    // filled with), and under Wine costs more than the list box itself.
+    static LRESULT CALLBACK onCreate(int code, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK dialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void beforeInit(HWND window);
+    void afterInit(HWND window);
     static void CALLBACK onTimer(HWND, UINT, UINT_PTR, DWORD);
     bool opening();
 
     HMODULE library_ = nullptr;
     Sink sink_;
     Tick tick_;
-    HHOOK before_ = nullptr;
-    HHOOK after_ = nullptr;
+    HHOOK cbt_ = nullptr;
+    std::map<HWND, WNDPROC> subclassed_;
     UINT_PTR timer_ = 0;
     struct Opening {
         HWND window;

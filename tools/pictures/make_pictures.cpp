@@ -27,7 +27,6 @@ struct Colour {
 
 constexpr Colour kInk{0, 0, 0};
 constexpr Colour kPaper{255, 255, 255};
-constexpr Colour kGrey{150, 150, 150};
 
 struct Point {
     double x, y;

@@ -1,0 +1,151 @@
+// The composers of the data and graph families fed made-up settings and
+// names: each must give lines within the composition buffer (9,998
+// characters and its NUL) or a refusal, never a crash or a sanitizer report.
+#include <fuzzer/FuzzedDataProvider.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "data/composers.h"
+#include "graph/graph_composers.h"
+
+namespace {
+
+using kvs::Composition;
+using kvs::Names;
+
+// Appends nothing: the option records are the scenario fuzzer's to reach.
+class NoOptions : public kvs::graph::OptionSource {
+public:
+    bool buttonEnabled(int) const override { return true; }
+    void append(kvs::CommandText&, int, bool) const override {}
+};
+
+// Mostly variable-like names; now and then a long, odd or empty one.
+Names names(FuzzedDataProvider& in) {
+    Names list(in.ConsumeIntegralInRange<std::size_t>(0, 3000));
+    for (std::string& name : list) {
+        if (in.ConsumeIntegralInRange(0, 15) == 0) name = in.ConsumeRandomLengthString(64);
+        else name = "V" + std::to_string(in.ConsumeIntegral<std::uint16_t>());
+    }
+    return list;
+}
+
+void check(const Composition& c) {
+    for (const std::string& line : c.lines)
+        if (line.size() > kvs::CommandText::kCapacity - 1) std::abort();
+}
+
+void check(const kvs::CommandText& line) {
+    if (line.size() > kvs::CommandText::kCapacity - 1) std::abort();
+}
+
+kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
+    kvs::data::ConditionState state;
+    for (kvs::data::ConditionRow& row : state.rows) {
+        row.connector = in.ConsumeIntegralInRange(-1, 3);
+        row.variable = in.ConsumeRandomLengthString(40);
+        row.op = in.ConsumeIntegralInRange(-1, 12);
+        row.value = in.ConsumeRandomLengthString(200);
+    }
+    state.thenConnectors = {in.ConsumeIntegralInRange(-1, 3), in.ConsumeIntegralInRange(-1, 3)};
+    state.ifNot = in.ConsumeBool();
+    state.selectOff = in.ConsumeBool();
+    state.complete = in.ConsumeBool();
+    state.functionType = in.ConsumeIntegralInRange(-1, 8);
+    return state;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedDataProvider in(data, size);
+    const NoOptions options;
+    switch (in.ConsumeIntegralInRange(0, 12)) {
+    case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
+    case 1: check(kvs::data::composeRank(names(in))); break;
+    case 2: check(kvs::data::composeTranspose(names(in))); break;
+    case 3: check(kvs::data::composeOrder(names(in))); break;
+    case 4: check(kvs::data::composeStandardize(in.ConsumeIntegralInRange(-1, 4), names(in))); break;
+    case 5: {
+        std::vector<kvs::data::ValueLabel> labels(in.ConsumeIntegralInRange<std::size_t>(0, 500));
+        for (auto& [value, label] : labels)
+            value = in.ConsumeRandomLengthString(20), label = in.ConsumeRandomLengthString(60);
+        const std::string line = kvs::data::composeLabelLine(in.ConsumeRandomLengthString(20), labels);
+        if (line.size() > kvs::CommandText::kCapacity - 1) std::abort();
+        break;
+    }
+    case 6: {
+        const kvs::data::ConditionState state = conditions(in);
+        kvs::CommandText line;
+        kvs::data::composeSelect(state, line, in.ConsumeBool());
+        check(line);
+        kvs::CommandText let;
+        kvs::data::composeLet(state, let);
+        check(let);
+        kvs::CommandText ifThen;
+        kvs::data::composeIfThenLet(state, ifThen);
+        check(ifThen);
+        break;
+    }
+    case 7: {
+        kvs::CommandText line;
+        const std::string a = in.ConsumeRandomLengthString(600), b = in.ConsumeRandomLengthString(600);
+        kvs::data::composeAppendLine(a, b, in.ConsumeIntegralInRange(0, 40), line);
+        check(line);
+        kvs::CommandText merge;
+        kvs::data::composeMergeLine(a, in.ConsumeRandomLengthString(2000), b, in.ConsumeRandomLengthString(2000),
+                                    in.ConsumeIntegralInRange(-1, 2), in.ConsumeRandomLengthString(2000), merge);
+        check(merge);
+        break;
+    }
+    case 8: check(kvs::data::composeProgram(in.ConsumeRandomLengthString(12), in.ConsumeRandomLengthString(40000))); break;
+    case 9: {
+        kvs::graph::ScatterplotState s;
+        s.x = names(in), s.y = names(in), s.z = names(in), s.group = names(in), s.w = names(in);
+        s.overlay = in.ConsumeBool(), s.repeat = in.ConsumeBool(), s.matrix = in.ConsumeBool();
+        s.mirror = in.ConsumeBool(), s.mirrorChecked = in.ConsumeBool(), s.matrixChecked = in.ConsumeBool();
+        s.display = in.ConsumeIntegralInRange(-1, 3), s.displayEnabled = in.ConsumeBool();
+        check(kvs::graph::composeScatterplot(s, options));
+        break;
+    }
+    case 10: {
+        kvs::graph::BarFamilyState s;
+        s.x = names(in), s.y = names(in), s.z = names(in), s.group = names(in);
+        s.counts = in.ConsumeBool(), s.repeat = in.ConsumeBool(), s.repeatChecked = in.ConsumeBool();
+        s.matrix = in.ConsumeBool(), s.matrixChecked = in.ConsumeBool(), s.stack = in.ConsumeBool();
+        s.range = in.ConsumeBool(), s.overlay = in.ConsumeBool(), s.mirror = in.ConsumeBool();
+        s.display = in.ConsumeIntegralInRange(-1, 3), s.displayEnabled = in.ConsumeBool();
+        const int ids[] = {102, 103, 108, 109, 1124};
+        check(kvs::graph::composeBarFamily(ids[in.ConsumeIntegralInRange(0, 4)], s, options));
+        break;
+    }
+    case 11: {
+        kvs::graph::DensityState s;
+        s.x = names(in), s.y = names(in), s.group = names(in);
+        s.repeat = in.ConsumeBool(), s.repeatChecked = in.ConsumeBool(), s.overlay = in.ConsumeBool();
+        s.mirror = in.ConsumeBool(), s.style = in.ConsumeIntegralInRange(-1, 8), s.display = in.ConsumeIntegralInRange(-1, 4);
+        const int ids[] = {106, 111, 113, 114};
+        check(kvs::graph::composeDensity(ids[in.ConsumeIntegralInRange(0, 3)], s, options));
+        break;
+    }
+    default: {
+        kvs::graph::SimpleGraphState s;
+        s.x = names(in), s.y = names(in), s.group = names(in);
+        s.mirror = in.ConsumeBool(), s.overlay = in.ConsumeBool(), s.half = in.ConsumeBool();
+        s.transpose = in.ConsumeBool(), s.ring = in.ConsumeBool(), s.threeD = in.ConsumeBool();
+        s.slices = in.ConsumeRandomLengthString(20), s.probabilityScale = in.ConsumeBool();
+        s.choice = in.ConsumeIntegralInRange(-1, 40);
+        s.parameter1 = in.ConsumeRandomLengthString(30), s.parameter2 = in.ConsumeRandomLengthString(30);
+        s.sphere = in.ConsumeBool();
+        s.equationLeft = in.ConsumeRandomLengthString(300), s.equationRight = in.ConsumeRandomLengthString(3000);
+        s.display = in.ConsumeIntegralInRange(-1, 3);
+        const int ids[] = {116, 118, 119, 120, 121, 128, 129, 146, 147};
+        check(kvs::graph::composeSimpleGraph(ids[in.ConsumeIntegralInRange(0, 8)], s, options));
+        break;
+    }
+    }
+    return 0;
+}
