@@ -64,8 +64,8 @@ constexpr ListPair kListPairs[] = {
 
 class OptionSubDialog : public DialogHandler {
 public:
-    OptionSubDialog(const ParentState& parent, int code, OptionRecord* record)
-        : parent_(parent), code_(code), record_(record), sub_(subDialogFor(code, parent.dialogId)),
+    OptionSubDialog(const ParentState& parent, int code, const OptionRecord* record)
+        : parent_(parent), code_(code), sub_(subDialogFor(code, parent.dialogId)),
           form_(formOf(sub_.templateName)),
           values_(record ? record->values : defaultValues(form_)) {}
 
@@ -115,7 +115,10 @@ private:
             showGraphMessage(view.handle(), refusal);
             return;
         }
-        if (record_) record_->values = values_;
+        // Looked up again: ReinitDialogs may have forgotten the records while
+        // the sub-dialog was up (a host timer can call it); OK then keeps
+        // what the user confirmed in a record made anew.
+        if (OptionRecord* record = optionRecord(parent_.dialogId, code_)) record->values = values_;
         view.end(1);
     }
 
@@ -179,7 +182,6 @@ private:
 
     ParentState parent_;
     int code_;
-    OptionRecord* record_;
     SubDialog sub_;
     const OptionForm& form_;
     ControlValues values_;
@@ -194,7 +196,9 @@ bool runOptionDialog(const ParentState& parent, int code) {
     OptionSubDialog handler(parent, code, record);
     const int result = ui().runModalTitled(parent.window, sub.templateName, sub.title, handler);
     if (result <= 0 || !record) return false;
-    record->set = true;
+    OptionRecord* kept = optionRecord(parent.dialogId, code);
+    if (!kept) return false;
+    kept->set = true;
     return true;
 }
 
