@@ -1,0 +1,157 @@
+#include "standin/win/soak.h"
+
+#include <windows.h>
+#include <psapi.h>
+
+#include <cstdio>
+#include <random>
+#include <vector>
+
+#include "standin/host_state.h"
+#include "standin/win/help_catcher.h"
+#include "standin/win/library.h"
+#include "standin/win/owner_window.h"
+#include "standin/win/sample_data.h"
+#include "standin/win/window_backend.h"
+#include "standin/win/window_roles.h"
+#include "standin/win/window_watch.h"
+
+namespace kvs::standin {
+
+namespace {
+
+constexpr int kActionsPerDialog = 6;  // random clicks before the dialog is closed
+
+struct Counts {
+    DWORD gdi = 0;
+    DWORD user = 0;
+    int windows = 0;           // the thread's windows, children included
+    SIZE_T privateBytes = 0;
+};
+
+BOOL CALLBACK countChild(HWND, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK countWindow(HWND window, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    EnumChildWindows(window, countChild, count);
+    return TRUE;
+}
+
+Counts counts() {
+    Counts c;
+    c.gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    c.user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&c.windows));
+    PROCESS_MEMORY_COUNTERS memory{};
+    memory.cb = sizeof memory;
+    if (GetProcessMemoryInfo(GetCurrentProcess(), &memory, sizeof memory)) c.privateBytes = memory.PagefileUsage;
+    return c;
+}
+
+struct ButtonPick {
+    std::vector<int> ids;
+};
+
+BOOL CALLBACK collectButton(HWND child, LPARAM found) {
+    char name[16] = {};
+    GetClassNameA(child, name, sizeof name);
+    const int id = GetDlgCtrlID(child);
+    // Help would start the help viewer; the rest a user may press at random.
+    if (lstrcmpiA(name, "Button") == 0 && IsWindowVisible(child) && IsWindowEnabled(child) && id != 12 &&
+        id != 9 && id > 0)
+        reinterpret_cast<ButtonPick*>(found)->ids.push_back(id);
+    return TRUE;
+}
+
+class Soak {
+public:
+    Soak(std::FILE* out, HWND owner) : out_(out), owner_(owner), backend_(library_, owner) {}
+
+    int run(int rounds) {
+        std::string error;
+        if (!library_.load(error)) {
+            std::fprintf(out_, "soak: %s\n", error.c_str());
+            return 1;
+        }
+        HostState::instance().setSink([](const std::string&) {});
+        installSampleData();
+        help_.open([](const std::string&) {});
+        watch_.start(library_.module(), [](const std::string&) {}, [this](HWND top) { onTick(top); });
+        const std::vector<KvsDialogEntry> rows = library_.dialogs();
+        round(rows);  // the first round makes what lives as long as the library
+        const Counts before = counts();
+        for (int i = 1; i < rounds; ++i) round(rows);
+        const Counts after = counts();
+        watch_.stop();
+        std::fprintf(out_, "%d rounds of %zu dialogs: %ld dialog openings, %ld actions\n", rounds, rows.size(),
+                     openings_, actions_);
+        std::fprintf(out_, "%-22s %14s %14s\n", "", "after round 1", "at the end");
+        std::fprintf(out_, "%-22s %14lu %14lu\n", "GDI objects", before.gdi, after.gdi);
+        std::fprintf(out_, "%-22s %14lu %14lu\n", "USER objects", before.user, after.user);
+        std::fprintf(out_, "%-22s %14d %14d\n", "windows of the thread", before.windows, after.windows);
+        std::fprintf(out_, "%-22s %14zu %14zu\n", "private bytes", before.privateBytes, after.privateBytes);
+        HostState::instance().setSink(nullptr);
+        library_.unload();
+        return 0;
+    }
+
+private:
+    void round(const std::vector<KvsDialogEntry>& rows) {
+        for (const KvsDialogEntry& row : rows) {
+            actionsLeft_ = kActionsPerDialog;
+            ++openings_;
+            library_.startDialog(row.commandId, owner_, kSampleHelpFile);
+        }
+    }
+
+    // A message box, chooser or menu is answered as a user giving up would;
+    // a dialog gets a few random clicks, then Cancel.
+    void onTick(HWND top) {
+        if (!top) return;
+        if (roleOf(top, library_.module()) != scenario::WindowKind::Dialog || actionsLeft_ <= 0) {
+            backend_.dismissTop();
+            return;
+        }
+        --actionsLeft_;
+        ButtonPick pick;
+        EnumChildWindows(top, collectButton, reinterpret_cast<LPARAM>(&pick));
+        if (pick.ids.empty()) {
+            backend_.dismissTop();
+            return;
+        }
+        ++actions_;
+        backend_.click(pick.ids[random_() % pick.ids.size()]);
+    }
+
+    std::FILE* out_;
+    HWND owner_;
+    Library library_;
+    HelpCatcher help_;
+    WindowWatch watch_;
+    WindowBackend backend_;
+    std::mt19937 random_{20261125};
+    int actionsLeft_ = 0;
+    long openings_ = 0;
+    long actions_ = 0;
+};
+
+}  // namespace
+
+int runSoak(const std::string& outPath, int rounds) {
+    std::FILE* out = std::fopen(outPath.c_str(), "wb");
+    if (!out) return 1;
+    const HWND owner = createOwnerWindow(kSampleTitle);
+    int result = 1;
+    if (owner) {
+        Soak soak(out, owner);
+        result = soak.run(rounds < 2 ? 2 : rounds);
+        DestroyWindow(owner);
+    }
+    std::fclose(out);
+    return result;
+}
+
+}  // namespace kvs::standin
