@@ -22,6 +22,8 @@ namespace {
 // stuck (a window the driver does not know, such as a popup menu).
 constexpr DWORD kStuckMilliseconds = 20000;
 constexpr DWORD kQuietMilliseconds = 1000;
+// The longest one scenario file may run; past it the run ends with an error.
+constexpr DWORD kFileMilliseconds = 120000;
 // Windows a scenario may leave open (modeless ones) closed at its end.
 constexpr int kLeftOpenLimit = 8;
 
@@ -74,6 +76,7 @@ private:
     scenario::Engine engine_;
     DWORD lastTick_ = 0;
     DWORD waitingSince_ = 0;  // 0: not waiting
+    DWORD fileStarted_ = 0;
 };
 
 void ScenarioRun::resetHostAndKernel() {
@@ -88,6 +91,11 @@ void ScenarioRun::resetHostAndKernel() {
 
 void ScenarioRun::onTick(HWND top) {
     const DWORD now = GetTickCount();
+    if (now - fileStarted_ > kFileMilliseconds) {
+        emit(scenario::errorLine("the scenario ran over " + std::to_string(kFileMilliseconds / 1000) + " s"));
+        std::fclose(out_);
+        ExitProcess(3);
+    }
     // A quiet timer means no modal loop ran in between: a new wait begins.
     if (now - lastTick_ > kQuietMilliseconds) waitingSince_ = 0;
     lastTick_ = now;
@@ -128,6 +136,7 @@ bool ScenarioRun::runFile(std::size_t number, const std::string& path) {
         return false;
     }
     lastTick_ = GetTickCount();
+    fileStarted_ = lastTick_;
     waitingSince_ = 0;
 
     engine_.load(*source);

@@ -7,7 +7,12 @@
 //
 // The wine backend runs every file in one KORVAN.exe under Wine against the
 // real kvs_dlg.dll (tools/wine/korvan.sh; build x86_64 first).
+#include <chrono>
+#include <condition_variable>
+#include <cstdlib>
 #include <fstream>
+#include <mutex>
+#include <thread>
 #include <iostream>
 #include <sstream>
 #include <string>
@@ -19,6 +24,10 @@
 #include "tools/scenario/text_file.h"
 
 namespace {
+
+// The longest a scenario file may run headlessly.
+constexpr int kSecondsPerFile = 60;
+
 
 int usage() {
     std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] [--strict] FILE.scn...\n"
@@ -90,9 +99,36 @@ int main(int argc, char** argv) {
     kvs::headless::HeadlessRunner runner(resources);
     runner.setStrict(strict);
 
+    // A scenario that runs too long ends the run: a hang fails at once
+    // instead of holding the test command until its own limit.
+    std::mutex watched;
+    std::condition_variable fileDone;
+    std::string running;
+    bool finished = false;
+    std::thread watchdog([&] {
+        std::unique_lock lock(watched);
+        std::string last;
+        while (!finished) {
+            last = running;
+            if (fileDone.wait_for(lock, std::chrono::seconds(kSecondsPerFile), [&] { return finished || running != last; }))
+                continue;
+            if (last.empty()) continue;
+            std::cout << "FAIL " << last << ": ran over " << kSecondsPerFile << " s" << std::endl;
+            std::_Exit(3);
+        }
+    });
+    const auto watch = [&](const std::string& file) {
+        {
+            const std::lock_guard lock(watched);
+            running = file;
+        }
+        fileDone.notify_all();
+    };
+
     int passed = 0, failed = 0;
     for (std::size_t i = 0; i < files.size(); ++i) {
         const std::string& file = files[i];
+        if (!wine) watch(file + "#" + std::to_string(i));
         const std::optional<std::string> source = kvs::scenario::readTextFile(file);
         if (!source) {
             std::cerr << "kvsdlg: cannot read " << file << '\n';
@@ -120,6 +156,12 @@ int main(int argc, char** argv) {
             ++passed;
         }
     }
+    {
+        const std::lock_guard lock(watched);
+        finished = true;
+    }
+    fileDone.notify_all();
+    watchdog.join();
     if (command == "check") std::cout << "scenarios: " << passed << " passed, " << failed << " failed\n";
     return failed == 0 && !wineFailed ? 0 : 1;
 }
