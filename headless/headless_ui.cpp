@@ -147,6 +147,9 @@ void HeadlessUi::unstack(const DialogWindow* window) {
 void HeadlessUi::closeModeless(DialogView& view) {
     DialogWindow* window = modelessOf(view);
     if (!window) return;
+    // Closing a window destroys the message boxes it owns, as Windows does.
+    for (const Window& each : stack_)
+        if (each.message && each.message->request.owner == view.handle()) each.message->destroyed = true;
     unstack(window);
     for (auto it = modeless_.begin(); it != modeless_.end(); ++it) {
         if (it->get() == window) {
@@ -185,7 +188,7 @@ int HeadlessUi::messageBox(const MessageRequest& request) {
     const std::string caption = request.caption ? *request.caption : kDefaultMessageCaption;
     transcript_(scenario::messageLine(caption, iconName(request.icon), request.text));
     const Stacked stacked(stack_, Window{nullptr, &window, nullptr, nullptr});
-    pumpUntil([&] { return window.answer != 0; });
+    pumpUntil([&] { return window.answer != 0 || window.destroyed; });
     return window.answer;
 }
 

@@ -34,7 +34,8 @@ struct DialogWindow {
 
 struct MessageWindow {
     MessageRequest request;
-    int answer = 0;  // 0 until answered
+    int answer = 0;         // 0 until answered
+    bool destroyed = false;  // its owner window was closed under it: MessageBox gives 0
 };
 
 struct ChooserWindow {
