@@ -2,8 +2,10 @@
 
 #include <windows.h>
 #include <psapi.h>
+#include <winternl.h>
 
 #include <cstdio>
+#include <cstring>
 #include <random>
 #include <vector>
 
@@ -40,9 +42,39 @@ BOOL CALLBACK countWindow(HWND window, LPARAM count) {
     return TRUE;
 }
 
+// Wine's GetGuiResources answers 0. Its GDI handle table is the process's
+// own, in the memory the PEB's GdiSharedHandleTable points to: 65,536
+// entries of 24 bytes, an entry in use when its type byte (at offset 12) is
+// not 0. Counted only under Wine, whose layout this is.
+DWORD wineGdiObjects() {
+#if defined(_WIN64)
+    const HMODULE ntdll = GetModuleHandleA("ntdll.dll");
+    if (!ntdll || !GetProcAddress(ntdll, "wine_get_version")) return 0;
+    constexpr std::size_t kTableOffset = 0xF8, kEntries = 0x10000, kEntrySize = 24, kTypeOffset = 12;
+    using QueryProcess = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
+    const auto query = reinterpret_cast<QueryProcess>(
+        reinterpret_cast<void*>(GetProcAddress(ntdll, "NtQueryInformationProcess")));
+    PROCESS_BASIC_INFORMATION basic{};
+    if (!query || query(GetCurrentProcess(), 0, &basic, sizeof basic, nullptr) != 0) return 0;
+    const auto* peb = reinterpret_cast<const BYTE*>(basic.PebBaseAddress);
+    const BYTE* table = nullptr;
+    std::memcpy(&table, peb + kTableOffset, sizeof table);
+    MEMORY_BASIC_INFORMATION region{};
+    if (!table || !VirtualQuery(table, &region, sizeof region) || region.State != MEM_COMMIT ||
+        static_cast<const BYTE*>(region.BaseAddress) + region.RegionSize < table + kEntries * kEntrySize)
+        return 0;
+    DWORD used = 0;
+    for (std::size_t i = 0; i < kEntries; ++i) used += table[i * kEntrySize + kTypeOffset] != 0 ? 1 : 0;
+    return used;
+#else
+    return 0;
+#endif
+}
+
 Counts counts() {
     Counts c;
     c.gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    if (c.gdi == 0) c.gdi = wineGdiObjects();
     c.user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
     EnumThreadWindows(GetCurrentThreadId(), countWindow, reinterpret_cast<LPARAM>(&c.windows));
     PROCESS_MEMORY_COUNTERS memory{};
