@@ -124,7 +124,8 @@ public:
         std::fprintf(out_, "%-22s %14lu %14lu\n", "GDI objects", before.gdi, after.gdi);
         std::fprintf(out_, "%-22s %14lu %14lu\n", "USER objects", before.user, after.user);
         std::fprintf(out_, "%-22s %14d %14d\n", "windows of the thread", before.windows, after.windows);
-        std::fprintf(out_, "%-22s %14zu %14zu\n", "private bytes", before.privateBytes, after.privateBytes);
+        std::fprintf(out_, "%-22s %14llu %14llu\n", "private bytes", static_cast<unsigned long long>(before.privateBytes),
+                     static_cast<unsigned long long>(after.privateBytes));
         HostState::instance().setSink(nullptr);
         library_.unload();
         return 0;
