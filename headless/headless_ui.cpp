@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "resources/progress_ids.h"
 #include "tools/scenario/transcript.h"
@@ -13,16 +14,24 @@ using scenario::quote;
 namespace {
 
 // A window of the stack while a modal loop runs; taken off however the loop
-// ends, an exception from a dialog's logic included.
+// ends, an exception from a dialog's logic included. Modeless windows opened
+// during the loop may lie above it, so it takes off its own entry, not the top.
 class Stacked {
 public:
-    Stacked(std::vector<Window>& stack, Window window) : stack_(stack) { stack_.push_back(window); }
-    ~Stacked() { stack_.pop_back(); }
+    Stacked(std::vector<Window>& stack, Window window) : stack_(stack), window_(window) { stack_.push_back(window); }
+    ~Stacked() {
+        const auto own = std::find_if(stack_.rbegin(), stack_.rend(), [&](const Window& each) {
+            return each.dialog == window_.dialog && each.message == window_.message && each.chooser == window_.chooser &&
+                   each.font == window_.font && each.menu == window_.menu;
+        });
+        if (own != stack_.rend()) stack_.erase(std::next(own).base());
+    }
     Stacked(const Stacked&) = delete;
     Stacked& operator=(const Stacked&) = delete;
 
 private:
     std::vector<Window>& stack_;
+    Window window_;
 };
 
 const char* iconName(MessageIcon icon) {

@@ -20,10 +20,15 @@ cp "$root"/tests/scenarios/*.scn "$root"/tests/scenarios/headless/*.scn "$corpus
 run() {
   local target=$1; shift
   echo "== $target for $seconds s"
+  local log="$findings/$target.log" status=0
   "$bin/$target" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=4096 \
-    -artifact_prefix="$findings/$target-" -print_final_stats=1 "$@" 2>&1 |
-    grep -E '^(Done|stat::number_of_executed_units|==[0-9]+==ERROR|SUMMARY)' || true
-  return "${PIPESTATUS[0]}"
+    -artifact_prefix="$findings/$target-" -print_final_stats=1 "$@" > "$log" 2>&1 || status=$?
+  grep -E '^(Done|stat::number_of_executed_units|==[0-9]+==ERROR|SUMMARY)' "$log" || true
+  if [ "$status" -ne 0 ]; then
+    echo "== $target failed ($status); its input is in $findings, the whole report in $log"
+    grep -E '^ +#[0-9]+ ' "$log" | head -20 || true
+  fi
+  return "$status"
 }
 status=0
 run fuzz_scenarios -max_len=8192 -dict="$root/build/fuzz/scenarios.dict" "$corpus/scenarios" || status=1
