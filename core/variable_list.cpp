@@ -8,33 +8,81 @@
 
 namespace kvs {
 
+namespace {
+
+std::size_t hashName(std::string_view name) {
+    std::size_t hash = 2166136261u;  // FNV-1a
+    for (char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
+    return hash;
+}
+
+// A power of two with room for count names at a load of at most one half.
+std::size_t slotsFor(std::size_t count) {
+    std::size_t slots = 16;
+    while (slots < count * 2) slots *= 2;
+    return slots;
+}
+
+}  // namespace
+
 void VariableCatalogue::clear() {
     names_.clear();
     listed_.clear();
+    std::fill(slots_.begin(), slots_.end(), -1);
+    used_ = 0;
 }
 
 void VariableCatalogue::reserve(std::size_t count) {
     names_.reserve(count);
     listed_.reserve(count);
+    if (slotsFor(count) > slots_.size()) rebuild(slotsFor(count));
 }
 
 void VariableCatalogue::add(std::string name, bool listed) {
-    const auto index = static_cast<std::int32_t>(names_.size());
-    if (listed) listed_.emplace(name, index);
     names_.push_back(std::move(name));
+    listed_.push_back(listed);
+    if (listed) insertListed(static_cast<std::int32_t>(names_.size() - 1));
+}
+
+// A name listed twice keeps its first index.
+void VariableCatalogue::insertListed(std::int32_t index) {
+    if ((used_ + 1) * 2 > slots_.size()) rebuild(slotsFor(used_ + 1));
+    const std::string_view name = names_[static_cast<std::size_t>(index)];
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
+        const std::int32_t held = slots_[slot];
+        if (held < 0) {
+            slots_[slot] = index;
+            ++used_;
+            return;
+        }
+        if (names_[static_cast<std::size_t>(held)] == name) return;
+    }
+}
+
+void VariableCatalogue::rebuild(std::size_t slotCount) {
+    slots_.assign(slotCount, -1);
+    used_ = 0;
+    for (std::size_t i = 0; i < names_.size(); ++i) {
+        if (listed_[i]) insertListed(static_cast<std::int32_t>(i));
+    }
 }
 
 void VariableCatalogue::truncate(std::size_t size) {
-    for (std::size_t i = size; i < names_.size(); ++i) {
-        const auto it = listed_.find(names_[i]);
-        if (it != listed_.end() && static_cast<std::size_t>(it->second) == i) listed_.erase(it);
-    }
-    if (size < names_.size()) names_.resize(size);
+    if (size >= names_.size()) return;
+    names_.resize(size);
+    listed_.resize(size);
+    rebuild(slots_.size());
 }
 
 std::int32_t VariableCatalogue::indexOf(std::string_view name) const {
-    auto it = listed_.find(std::string(name));
-    return it == listed_.end() ? -1 : it->second;
+    if (slots_.empty()) return -1;
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
+        const std::int32_t held = slots_[slot];
+        if (held < 0) return -1;
+        if (names_[static_cast<std::size_t>(held)] == name) return held;
+    }
 }
 
 std::string_view VariableCatalogue::nameAt(std::int32_t index) const {

@@ -164,10 +164,12 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
     HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return kListError;
     const std::string item = cString(text);
+    std::size_t* longest = longestOf(list, id);
     ChangingControls changing;
     const LRESULT result = how == ListInsert::Sorted
                                ? send(list, LB_ADDSTRING, 0, textArgument(item))
                                : send(list, LB_INSERTSTRING, static_cast<WPARAM>(-1), textArgument(item));
+    if (longest) *longest = std::max(*longest, item.size());
     if (result == LB_ERRSPACE) return kListNoSpace;
     if (result < 0) return kListError;
     return static_cast<int>(result);
@@ -187,6 +189,15 @@ void Win32DialogView::listClear(int id) {
     if (!list) return;
     ChangingControls changing;
     send(list, LB_RESETCONTENT);
+    longest_[id] = 0;
+}
+
+// The longest text of a list this view has watched since it was empty, or
+// null for a list it found already filled.
+std::size_t* Win32DialogView::longestOf(HWND list, int id) {
+    if (const auto known = longest_.find(id); known != longest_.end()) return &known->second;
+    if (send(list, LB_GETCOUNT) != 0) return nullptr;
+    return &longest_[id];
 }
 
 // LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
@@ -253,18 +264,22 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, const std::ve
     ListAddResult result;
     HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return result;
+    std::size_t* longest = longestOf(list, id);
     ChangingControls changing;
     const UINT message = how == ListInsert::Sorted ? LB_ADDSTRING : LB_INSERTSTRING;
     const WPARAM at = how == ListInsert::Sorted ? 0 : static_cast<WPARAM>(-1);
     std::string item;
+    std::size_t longestAdded = 0;
     for (std::string_view text : texts) {
         item.assign(text.substr(0, text.find('\0')));
+        longestAdded = std::max(longestAdded, item.size());
         if (send(list, message, at, textArgument(item)) == LB_ERRSPACE) {
             result.noSpace = true;
             break;
         }
         ++result.added;
     }
+    if (longest) *longest = std::max(*longest, longestAdded);
     return result;
 }
 
@@ -276,6 +291,17 @@ std::vector<std::string> Win32DialogView::listTexts(int id) const {
     const auto known = readTexts_.find(id);
     if (known != readTexts_.end() && known->second.size() == static_cast<std::size_t>(count)) return known->second;
     texts.reserve(static_cast<std::size_t>(count));
+    if (const auto longest = longest_.find(id); longest != longest_.end()) {
+        // An ANSI text comes back through the list's own UTF-16 copy, so a
+        // byte may return as up to three (a lone byte of a multibyte code page).
+        std::string buffer(longest->second * 3 + 1, '\0');
+        for (LRESULT i = 0; i < count; ++i) {
+            const LRESULT got = send(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(buffer.data()));
+            texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, longest->second * 3)));
+        }
+        readTexts_[id] = texts;
+        return texts;
+    }
     std::string buffer(64, '\0');
     for (LRESULT i = 0; i < count; ++i) {
         const LRESULT length = send(list, LB_GETTEXTLEN, static_cast<WPARAM>(i));

@@ -64,6 +64,11 @@ private:
     // library's lists change only through the view, and OK reads a long
     // target list more than once (its selection array, then its command).
     mutable std::unordered_map<int, std::vector<std::string>> readTexts_;
+    // The longest text put into each list this view has filled since it was
+    // empty: with it a list reads back in one message per item.
+    std::unordered_map<int, std::size_t> longest_;
+
+    std::size_t* longestOf(HWND list, int id);
 };
 
 // True while a view is changing a control. Notifications the controls send

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "core/variable_list.h"
 
 namespace {
@@ -24,6 +26,28 @@ TEST(VariableCatalogue, MapsListedNamesBothWays) {
     EXPECT_EQ(catalogue.nameAt(1), "NAME$");
     EXPECT_EQ(catalogue.nameAt(3), "");
     EXPECT_EQ(catalogue.nameAt(-1), "");
+}
+
+TEST(VariableCatalogue, GrowsPastItsReserveKeepsTheFirstOfTwinsAndForgetsWhatIsCut) {
+    kvs::VariableCatalogue catalogue;
+    catalogue.reserve(4);
+    for (int i = 0; i < 5000; ++i) catalogue.add("V" + std::to_string(i), true);
+    catalogue.add("V17", true);
+    EXPECT_EQ(catalogue.indexOf("V4999"), 4999);
+    EXPECT_EQ(catalogue.indexOf("V17"), 17) << "a name listed twice maps to its first place";
+    EXPECT_EQ(catalogue.indexOf("V5000"), -1);
+
+    catalogue.truncate(100);
+    EXPECT_EQ(catalogue.size(), 100u);
+    EXPECT_EQ(catalogue.indexOf("V99"), 99);
+    EXPECT_EQ(catalogue.indexOf("V100"), -1);
+    catalogue.add("V100", true);
+    EXPECT_EQ(catalogue.indexOf("V100"), 100);
+
+    catalogue.clear();
+    EXPECT_EQ(catalogue.indexOf("V1"), -1);
+    catalogue.add("V1", true);
+    EXPECT_EQ(catalogue.indexOf("V1"), 0);
 }
 
 }  // namespace
