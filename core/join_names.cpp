@@ -2,7 +2,7 @@
 
 namespace kvs {
 
-Names listNames(const DialogView& view, int listId) { return view.listTexts(listId); }
+const Names& listNames(const DialogView& view, int listId) { return view.listTexts(listId); }
 
 int joinNames(const Names& names, CommandText& text, char separator) {
     int added = 0;

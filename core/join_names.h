@@ -11,9 +11,10 @@ namespace kvs {
 
 inline constexpr std::size_t kJoinLimit = 9900;
 
-// The names of a list box, in list order.
+// The names of a list box, in list order; held by the view until that list
+// changes or is read again.
 using Names = std::vector<std::string>;
-Names listNames(const DialogView& view, int listId);
+const Names& listNames(const DialogView& view, int listId);
 
 // Appends the names in order, each followed by separator, then drops the
 // last separator. Stops once the text is longer than 9,900 characters (the

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -93,9 +94,12 @@ public:
         }
         return result;
     }
-    // Every item's text, in order.
-    virtual std::vector<std::string> listTexts(int id) const {
-        std::vector<std::string> texts;
+    // Every item's text, in order. The view keeps the texts: they stay valid
+    // until that list changes or is read again, so a list of 100,000 names
+    // is not copied on its way to the selection array and the command.
+    virtual const std::vector<std::string>& listTexts(int id) const {
+        std::vector<std::string>& texts = textsRead_[id];
+        texts.clear();
         const int count = listCount(id);
         texts.reserve(static_cast<std::size_t>(count > 0 ? count : 0));
         for (int i = 0; i < count; ++i) texts.push_back(listText(id, i));
@@ -123,6 +127,9 @@ public:
     virtual void centre() = 0;
     // Ends the modal dialog with this result once the current message is done.
     virtual void end(int result) = 0;
+
+protected:
+    mutable std::unordered_map<int, std::vector<std::string>> textsRead_;  // by list id, for listTexts
 };
 
 // What a backend calls while a dialog runs.

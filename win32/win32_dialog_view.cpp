@@ -160,7 +160,7 @@ std::string Win32DialogView::listText(int id, int index) const {
 
 // LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
 int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
-    readTexts_.erase(id);
+    textsRead_.erase(id);
     HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return kListError;
     const std::string item = cString(text);
@@ -176,7 +176,7 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
 }
 
 void Win32DialogView::listDelete(int id, int index) {
-    readTexts_.erase(id);
+    textsRead_.erase(id);
     HWND list = ofKind(child(id), Kind::ListBox);
     if (!list || !validIndex(list, LB_GETCOUNT, index)) return;
     ChangingControls changing;
@@ -184,7 +184,7 @@ void Win32DialogView::listDelete(int id, int index) {
 }
 
 void Win32DialogView::listClear(int id) {
-    readTexts_.erase(id);
+    textsRead_.erase(id);
     HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return;
     ChangingControls changing;
@@ -260,7 +260,7 @@ void Win32DialogView::setRedraw(int id, bool on) {
 // read back whole.
 Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, const std::vector<std::string_view>& texts,
                                                            ListInsert how) {
-    readTexts_.erase(id);
+    textsRead_.erase(id);
     ListAddResult result;
     HWND list = ofKind(child(id), Kind::ListBox);
     if (!list) return result;
@@ -283,23 +283,23 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, const std::ve
     return result;
 }
 
-std::vector<std::string> Win32DialogView::listTexts(int id) const {
-    std::vector<std::string> texts;
+const std::vector<std::string>& Win32DialogView::listTexts(int id) const {
     HWND list = ofKind(child(id), Kind::ListBox);
     const LRESULT count = list ? send(list, LB_GETCOUNT) : 0;
+    std::vector<std::string>& texts = textsRead_[id];
+    if (count > 0 && texts.size() == static_cast<std::size_t>(count)) return texts;
+    texts.clear();
     if (count <= 0) return texts;
-    const auto known = readTexts_.find(id);
-    if (known != readTexts_.end() && known->second.size() == static_cast<std::size_t>(count)) return known->second;
     texts.reserve(static_cast<std::size_t>(count));
     if (const auto longest = longest_.find(id); longest != longest_.end()) {
         // An ANSI text comes back through the list's own UTF-16 copy, so a
         // byte may return as up to three (a lone byte of a multibyte code page).
-        std::string buffer(longest->second * 3 + 1, '\0');
+        const std::size_t room = longest->second * 3;
+        std::string buffer(room + 1, '\0');
         for (LRESULT i = 0; i < count; ++i) {
             const LRESULT got = send(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(buffer.data()));
-            texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, longest->second * 3)));
+            texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, static_cast<LRESULT>(room))));
         }
-        readTexts_[id] = texts;
         return texts;
     }
     std::string buffer(64, '\0');
@@ -313,7 +313,6 @@ std::vector<std::string> Win32DialogView::listTexts(int id) const {
         const LRESULT got = send(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(buffer.data()));
         texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, length)));
     }
-    readTexts_[id] = texts;
     return texts;
 }
 

@@ -41,7 +41,7 @@ public:
     void setRedraw(int id, bool on) override;
     void listReserve(int id, std::size_t count) override;
     ListAddResult listAddAll(int id, const std::vector<std::string_view>& texts, ListInsert how) override;
-    std::vector<std::string> listTexts(int id) const override;
+    const std::vector<std::string>& listTexts(int id) const override;
 
     void comboAdd(int id, std::string_view text) override;
     void comboClear(int id) override;
@@ -60,10 +60,9 @@ private:
 
     HWND dialog_;
     mutable std::unordered_map<int, HWND> controls_;
-    // The texts of a list as read last, until the view changes that list: the
-    // library's lists change only through the view, and OK reads a long
-    // target list more than once (its selection array, then its command).
-    mutable std::unordered_map<int, std::vector<std::string>> readTexts_;
+    // textsRead_ holds a list's texts as read last until the view changes
+    // that list: the library's lists change only through the view, and OK
+    // reads a long target list twice (its command, then its selection array).
     // The longest text put into each list this view has filled since it was
     // empty: with it a list reads back in one message per item.
     std::unordered_map<int, std::size_t> longest_;
