@@ -56,5 +56,7 @@ void runSamplingStart(CallContext&);
 void runSamplingUpdate(CallContext&);
 void runSamplingClear(CallContext&);
 void runSamplingBar(CallContext&);
+// Every export with the null pointers and out-of-range values a host may pass.
+void runNullCalls(CallContext&);
 
 }  // namespace kvs::scenario
