@@ -208,7 +208,9 @@ std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
     pumpUntil([&] { return window.answered; });
     if (!window.path) return std::nullopt;
     std::string path = withDefaultExtension(*window.path, addedExtension(request));
-    if (path.size() >= request.capacity) path.resize(request.capacity - 1);
+    // A name the caller's buffer cannot hold fails the chooser (FNERR_BUFFERTOOSMALL),
+    // which the caller sees as a cancel.
+    if (path.size() >= request.capacity) return std::nullopt;
     return path;
 }
 

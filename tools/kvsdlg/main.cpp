@@ -4,6 +4,8 @@
 //   kvsdlg run [--backend=headless|wine] [--strict] FILE.scn...
 //   kvsdlg check [--backend=...] FILE.scn...    compares each transcript with FILE.out
 //   kvsdlg update [--backend=...] FILE.scn...   writes each transcript to FILE.out
+//   kvsdlg fields LENGTH DIR                    writes DIR/fields_ID.scn: LENGTH characters
+//                                               typed into every edit field of dialog ID, then OK
 //
 // The wine backend runs every file in one KORVAN.exe under Wine against the
 // real kvs_dlg.dll (tools/wine/korvan.sh; build x86_64 first).
@@ -19,6 +21,7 @@
 #include <vector>
 
 #include "headless/embedded_resources.h"
+#include "headless/field_scenario.h"
 #include "headless/headless_backend.h"
 #include "tools/kvsdlg/wine_backend.h"
 #include "tools/scenario/text_file.h"
@@ -31,8 +34,31 @@ constexpr int kSecondsPerFile = 60;
 
 int usage() {
     std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] [--strict] FILE.scn...\n"
+                 "       kvsdlg fields LENGTH DIR\n"
                  "  --strict (headless only): a dialog touching a control its template lacks is an error line\n";
     return 2;
+}
+
+int writeFieldScenarios(const std::string& length, const std::string& folder) {
+    char* end = nullptr;
+    const unsigned long long count = std::strtoull(length.c_str(), &end, 10);
+    if (length.empty() || *end != '\0' || count == 0 || count > (16u << 20)) return usage();
+    kvs::headless::ResourceSet resources;
+    resources.load(kvs::headless::embeddedResources());
+    int written = 0;
+    for (const kvs::headless::FieldScenario& scenario :
+         kvs::headless::everyFieldScenario(resources, static_cast<std::size_t>(count))) {
+        const std::string path = folder + "/fields_" + std::to_string(scenario.commandId) + ".scn";
+        std::ofstream file(path, std::ios::binary);
+        file << scenario.source;
+        if (!file) {
+            std::cerr << "kvsdlg: cannot write " << path << "\n";
+            return 1;
+        }
+        ++written;
+    }
+    std::cout << written << " scenarios written to " << folder << "\n";
+    return 0;
 }
 
 std::string expectedPath(const std::string& scenario) {
@@ -59,6 +85,7 @@ std::string firstDifference(const std::string& expected, const std::string& actu
 int main(int argc, char** argv) {
     if (argc < 3) return usage();
     const std::string command = argv[1];
+    if (command == "fields") return argc == 4 ? writeFieldScenarios(argv[2], argv[3]) : usage();
     if (command != "run" && command != "check" && command != "update") return usage();
     std::vector<std::string> files;
     bool wine = false;

@@ -18,6 +18,12 @@ echo "== driver checks under Wine"
 # Time limits: a run that hangs (a window the driver cannot answer) fails
 # instead of holding CI until its own limit.
 timeout 300 "$(command -v /usr/lib/wine/wine64 || command -v wine)" "$KVS_WINE_DIR/standin_win_test.exe" || status=1
+kvsdlg="${KVSDLG:-$kvs_root/build/native/tools/kvsdlg}"
 echo "== scenarios under Wine"
-timeout 1200 "${KVSDLG:-$kvs_root/build/native/tools/kvsdlg}" check --backend=wine "$kvs_root"/tests/scenarios/*.scn "$kvs_root"/examples/*.scn || status=1
+timeout 1200 "$kvsdlg" check --backend=wine "$kvs_root"/tests/scenarios/*.scn "$kvs_root"/examples/*.scn || status=1
+echo "== a megabyte in every edit field of every dialog, headless and under Wine"
+fields="$(mktemp -d)"
+"$kvsdlg" fields 1048576 "$fields" && "$kvsdlg" update "$fields"/*.scn &&
+  timeout 600 "$kvsdlg" check --backend=wine "$fields"/*.scn || status=1
+rm -rf "$fields"
 exit $status
