@@ -28,7 +28,7 @@ TEST(HostileTextTest, AMegabyteInEveryFieldKeepsEveryLineWithinItsBound) {
             const std::size_t end = transcript.find('\n', at);
             const std::size_t length = (end == std::string::npos ? transcript.size() : end) - at;
             // The line's text, quoted with its escapes, and the argument.
-            EXPECT_LT(length, 2 * 9999u + 300) << "dialog " << scenario.commandId;
+            EXPECT_LT(length, 2 * 9999u + 300) << "scenario " << scenario.name;
             at = end;
         }
     }

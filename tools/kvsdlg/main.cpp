@@ -4,8 +4,9 @@
 //   kvsdlg run [--backend=headless|wine] [--strict] FILE.scn...
 //   kvsdlg check [--backend=...] FILE.scn...    compares each transcript with FILE.out
 //   kvsdlg update [--backend=...] FILE.scn...   writes each transcript to FILE.out
-//   kvsdlg fields LENGTH DIR                    writes DIR/fields_ID.scn: LENGTH characters
-//                                               typed into every edit field of dialog ID, then OK
+//   kvsdlg fields LENGTH DIR                    writes DIR/fields_*.scn: LENGTH characters typed
+//                                               into every edit field of every dialog and option
+//                                               sub-dialog, then OK
 //
 // The wine backend runs every file in one KORVAN.exe under Wine against the
 // real kvs_dlg.dll (tools/wine/korvan.sh; build x86_64 first).
@@ -48,7 +49,7 @@ int writeFieldScenarios(const std::string& length, const std::string& folder) {
     int written = 0;
     for (const kvs::headless::FieldScenario& scenario :
          kvs::headless::everyFieldScenario(resources, static_cast<std::size_t>(count))) {
-        const std::string path = folder + "/fields_" + std::to_string(scenario.commandId) + ".scn";
+        const std::string path = folder + "/fields_" + scenario.name + ".scn";
         std::ofstream file(path, std::ios::binary);
         file << scenario.source;
         if (!file) {
