@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -77,16 +78,19 @@ public:
     virtual void setRedraw(int id, bool on) = 0;
     // Room for count more items ahead of filling a list (LB_INITSTORAGE).
     virtual void listReserve(int id, std::size_t count) { (void)id, (void)count; }
-    // Adds texts in order, as listAdd each would; stops at the first the
-    // list has no room for. How many were added, and whether it ran out of room.
+    // Adds the texts textAt(0) .. textAt(count - 1) in order, as listAdd each
+    // would; stops at the first the list has no room for. How many were
+    // added, and whether it ran out of room. The texts are asked one at a
+    // time, so a caller need not gather 100,000 of them first.
     struct ListAddResult {
         std::size_t added = 0;
         bool noSpace = false;
     };
-    virtual ListAddResult listAddAll(int id, const std::vector<std::string_view>& texts, ListInsert how) {
+    using TextAt = std::function<std::string_view(std::size_t)>;
+    virtual ListAddResult listAddAll(int id, std::size_t count, const TextAt& textAt, ListInsert how) {
         ListAddResult result;
-        for (std::string_view text : texts) {
-            if (listAdd(id, text, how) == kListNoSpace) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (listAdd(id, textAt(i), how) == kListNoSpace) {
                 result.noSpace = true;
                 break;
             }

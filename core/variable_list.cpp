@@ -10,10 +10,16 @@ namespace kvs {
 
 namespace {
 
+// FNV-1a, then a finaliser that carries the high bits down: the table is
+// indexed by the low bits, which FNV alone leaves poorly mixed for names
+// that differ only in their last characters (V1, V2, ...).
 std::size_t hashName(std::string_view name) {
-    std::size_t hash = 2166136261u;  // FNV-1a
-    for (char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 16777619u;
-    return hash;
+    std::uint64_t hash = 14695981039346656037ull;
+    for (char c : name) hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211ull;
+    hash ^= hash >> 33;
+    hash *= 0xff51afd7ed558ccdull;
+    hash ^= hash >> 33;
+    return static_cast<std::size_t>(hash);
 }
 
 // A power of two with room for count names at a load of at most one half.
@@ -26,28 +32,31 @@ std::size_t slotsFor(std::size_t count) {
 }  // namespace
 
 void VariableCatalogue::clear() {
-    names_.clear();
+    chars_.clear();
+    starts_.assign(1, 0);
     listed_.clear();
     std::fill(slots_.begin(), slots_.end(), -1);
     used_ = 0;
 }
 
 void VariableCatalogue::reserve(std::size_t count) {
-    names_.reserve(count);
+    chars_.reserve(count * 8);
+    starts_.reserve(count + 1);
     listed_.reserve(count);
     if (slotsFor(count) > slots_.size()) rebuild(slotsFor(count));
 }
 
-void VariableCatalogue::add(std::string name, bool listed) {
-    names_.push_back(std::move(name));
+void VariableCatalogue::add(std::string_view name, bool listed) {
+    chars_.append(name);
+    starts_.push_back(static_cast<std::uint32_t>(chars_.size()));
     listed_.push_back(listed);
-    if (listed) insertListed(static_cast<std::int32_t>(names_.size() - 1));
+    if (listed) insertListed(static_cast<std::int32_t>(listed_.size() - 1));
 }
 
 // A name listed twice keeps its first index.
 void VariableCatalogue::insertListed(std::int32_t index) {
     if ((used_ + 1) * 2 > slots_.size()) rebuild(slotsFor(used_ + 1));
-    const std::string_view name = names_[static_cast<std::size_t>(index)];
+    const std::string_view name = nameAt(index);
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
         const std::int32_t held = slots_[slot];
@@ -56,21 +65,22 @@ void VariableCatalogue::insertListed(std::int32_t index) {
             ++used_;
             return;
         }
-        if (names_[static_cast<std::size_t>(held)] == name) return;
+        if (nameAt(held) == name) return;
     }
 }
 
 void VariableCatalogue::rebuild(std::size_t slotCount) {
     slots_.assign(slotCount, -1);
     used_ = 0;
-    for (std::size_t i = 0; i < names_.size(); ++i) {
+    for (std::size_t i = 0; i < listed_.size(); ++i) {
         if (listed_[i]) insertListed(static_cast<std::int32_t>(i));
     }
 }
 
 void VariableCatalogue::truncate(std::size_t size) {
-    if (size >= names_.size()) return;
-    names_.resize(size);
+    if (size >= listed_.size()) return;
+    chars_.resize(starts_[size]);
+    starts_.resize(size + 1);
     listed_.resize(size);
     rebuild(slots_.size());
 }
@@ -81,13 +91,14 @@ std::int32_t VariableCatalogue::indexOf(std::string_view name) const {
     for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
         const std::int32_t held = slots_[slot];
         if (held < 0) return -1;
-        if (names_[static_cast<std::size_t>(held)] == name) return held;
+        if (nameAt(held) == name) return held;
     }
 }
 
 std::string_view VariableCatalogue::nameAt(std::int32_t index) const {
-    if (index < 0 || static_cast<std::size_t>(index) >= names_.size()) return {};
-    return names_[static_cast<std::size_t>(index)];
+    if (index < 0 || static_cast<std::size_t>(index) >= listed_.size()) return {};
+    const auto at = static_cast<std::size_t>(index);
+    return std::string_view(chars_).substr(starts_[at], starts_[at + 1] - starts_[at]);
 }
 
 std::string nameFromField(std::string_view field) {
@@ -128,22 +139,24 @@ void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t
     catalogue.reserve(room);
     if (commandId == 46 || commandId == 677) view.listAdd(listId, "Case", how);
     const std::int32_t width = std::clamp<std::int32_t>(INQFML_EX(), 1, static_cast<std::int32_t>(kNameLength));
-    std::vector<std::int32_t> shown;  // catalogue positions of the names the list shows
-    shown.reserve(room);
+    // Catalogue positions of the names the list shows, kept only when some
+    // are left out; otherwise the list shows every position in order.
+    std::vector<std::int32_t> shown;
+    if (numericOnly) shown.reserve(room);
     for (std::int32_t k = 1; k <= count; ++k) {
-        std::string name = kernelName(k, width);
+        const std::string name = kernelName(k, width);
         const bool skip = numericOnly && name.find('$') != std::string::npos;
-        if (!skip) shown.push_back(static_cast<std::int32_t>(catalogue.size()));
-        catalogue.add(std::move(name), !skip);
+        if (numericOnly && !skip) shown.push_back(static_cast<std::int32_t>(catalogue.size()));
+        catalogue.add(name, !skip);
     }
-    std::vector<std::string_view> texts;
-    texts.reserve(shown.size());
-    for (std::int32_t position : shown) texts.push_back(catalogue.nameAt(position));
-    const DialogView::ListAddResult result = view.listAddAll(listId, texts, how);
+    const auto positionOf = [&](std::size_t i) { return numericOnly ? shown[i] : static_cast<std::int32_t>(i); };
+    const std::size_t showing = numericOnly ? shown.size() : catalogue.size();
+    const DialogView::ListAddResult result = view.listAddAll(
+        listId, showing, [&](std::size_t i) { return catalogue.nameAt(positionOf(i)); }, how);
     if (result.added > 0) view.listSetCurrent(listId, 0);
     if (result.noSpace) {
         // The catalogue ends where the list does.
-        catalogue.truncate(static_cast<std::size_t>(shown[result.added]));
+        catalogue.truncate(static_cast<std::size_t>(positionOf(result.added)));
         warnTooMany(view.handle(), static_cast<std::int32_t>(result.added));
     }
     view.setRedraw(listId, true);
@@ -162,7 +175,7 @@ void fillListFromFile(DialogView& view, const std::string& fileName, int listId,
         const char* entry = block + static_cast<std::size_t>(i) * kEntry;
         std::string name(entry, std::find(entry, entry + kNameLength, '\0'));
         view.listAdd(listId, name, how);
-        if (catalogue) catalogue->add(std::move(name), true);
+        if (catalogue) catalogue->add(name, true);
     }
     if (block) {
         void* memory = block;

@@ -20,22 +20,26 @@ class VariableCatalogue {
 public:
     void clear();
     void reserve(std::size_t count);
-    void add(std::string name, bool listed);
+    void add(std::string_view name, bool listed);
     // Forgets the names from index size on.
     void truncate(std::size_t size);
     // The index of a listed name, or -1.
     std::int32_t indexOf(std::string_view name) const;
     // The name at an index, or empty when out of range.
     std::string_view nameAt(std::int32_t index) const;
-    std::size_t size() const { return names_.size(); }
+    std::size_t size() const { return listed_.size(); }
 
 private:
     void insertListed(std::int32_t index);
     void rebuild(std::size_t slotCount);
 
-    std::vector<std::string> names_;
+    // The names end to end, and where each starts (one more entry than
+    // names): 100,000 names of a few characters take well under a megabyte,
+    // where a string each would take 3.2 (fresh memory is slow to touch).
+    std::string chars_;
+    std::vector<std::uint32_t> starts_{0};
     std::vector<bool> listed_;
-    // Open addressing over names_: each slot holds the index of a listed name
+    // Open addressing over the names: each slot holds the index of a listed name
     // or -1. One flat array instead of a node per name keeps filling a list of
     // 100,000 variables from allocating 100,000 times.
     std::vector<std::int32_t> slots_;

@@ -258,7 +258,7 @@ void Win32DialogView::setRedraw(int id, bool on) {
 
 // One look-up of the list for all the texts: a variable list is filled and
 // read back whole.
-Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, const std::vector<std::string_view>& texts,
+Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, std::size_t count, const TextAt& textAt,
                                                            ListInsert how) {
     textsRead_.erase(id);
     ListAddResult result;
@@ -270,7 +270,8 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, const std::ve
     const WPARAM at = how == ListInsert::Sorted ? 0 : static_cast<WPARAM>(-1);
     std::string item;
     std::size_t longestAdded = 0;
-    for (std::string_view text : texts) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string_view text = textAt(i);
         item.assign(text.substr(0, text.find('\0')));
         longestAdded = std::max(longestAdded, item.size());
         if (send(list, message, at, textArgument(item)) == LB_ERRSPACE) {

@@ -40,7 +40,7 @@ public:
     void listSetCurrent(int id, int index) override;
     void setRedraw(int id, bool on) override;
     void listReserve(int id, std::size_t count) override;
-    ListAddResult listAddAll(int id, const std::vector<std::string_view>& texts, ListInsert how) override;
+    ListAddResult listAddAll(int id, std::size_t count, const TextAt& textAt, ListInsert how) override;
     const std::vector<std::string>& listTexts(int id) const override;
 
     void comboAdd(int id, std::string_view text) override;
