@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <vector>
 
-
 #include "core/dispatch_table.h"
 #include "core/global_memory.h"
 

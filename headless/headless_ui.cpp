@@ -20,10 +20,7 @@ class Stacked {
 public:
     Stacked(std::vector<Window>& stack, Window window) : stack_(stack), window_(window) { stack_.push_back(window); }
     ~Stacked() {
-        const auto own = std::find_if(stack_.rbegin(), stack_.rend(), [&](const Window& each) {
-            return each.dialog == window_.dialog && each.message == window_.message && each.chooser == window_.chooser &&
-                   each.font == window_.font && each.menu == window_.menu;
-        });
+        const auto own = std::find(stack_.rbegin(), stack_.rend(), window_);
         if (own != stack_.rend()) stack_.erase(std::next(own).base());
     }
     Stacked(const Stacked&) = delete;

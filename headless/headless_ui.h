@@ -64,6 +64,8 @@ struct Window {
     ChooserWindow* chooser = nullptr;
     FontWindow* font = nullptr;
     MenuWindow* menu = nullptr;
+
+    bool operator==(const Window&) const = default;
 };
 
 using TranscriptSink = std::function<void(const std::string&)>;

@@ -62,6 +62,12 @@ std::string cString(std::string_view text) { return std::string(text.substr(0, t
 
 LPARAM textArgument(const std::string& text) { return reinterpret_cast<LPARAM>(text.c_str()); }
 
+// LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
+LRESULT insertItem(HWND list, const std::string& item, ListInsert how) {
+    return how == ListInsert::Sorted ? send(list, LB_ADDSTRING, 0, textArgument(item))
+                                     : send(list, LB_INSERTSTRING, static_cast<WPARAM>(-1), textArgument(item));
+}
+
 }  // namespace
 
 bool viewIsChangingControls() { return changingDepth > 0; }
@@ -158,7 +164,6 @@ std::string Win32DialogView::listText(int id, int index) const {
     return itemText(ofKind(child(id), Kind::ListBox), LB_GETTEXTLEN, LB_GETTEXT, index);
 }
 
-// LB_ADDSTRING sorts only in a list box with LBS_SORT; LB_INSERTSTRING at -1 appends.
 int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
     textsRead_.erase(id);
     HWND list = ofKind(child(id), Kind::ListBox);
@@ -166,9 +171,7 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
     const std::string item = cString(text);
     std::size_t* longest = longestOf(list, id);
     ChangingControls changing;
-    const LRESULT result = how == ListInsert::Sorted
-                               ? send(list, LB_ADDSTRING, 0, textArgument(item))
-                               : send(list, LB_INSERTSTRING, static_cast<WPARAM>(-1), textArgument(item));
+    const LRESULT result = insertItem(list, item, how);
     if (longest) *longest = std::max(*longest, item.size());
     if (result == LB_ERRSPACE) return kListNoSpace;
     if (result < 0) return kListError;
@@ -266,15 +269,13 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, std::size_t c
     if (!list) return result;
     std::size_t* longest = longestOf(list, id);
     ChangingControls changing;
-    const UINT message = how == ListInsert::Sorted ? LB_ADDSTRING : LB_INSERTSTRING;
-    const WPARAM at = how == ListInsert::Sorted ? 0 : static_cast<WPARAM>(-1);
     std::string item;
     std::size_t longestAdded = 0;
     for (std::size_t i = 0; i < count; ++i) {
         const std::string_view text = textAt(i);
         item.assign(text.substr(0, text.find('\0')));
         longestAdded = std::max(longestAdded, item.size());
-        if (send(list, message, at, textArgument(item)) == LB_ERRSPACE) {
+        if (insertItem(list, item, how) == LB_ERRSPACE) {
             result.noSpace = true;
             break;
         }
@@ -292,27 +293,23 @@ const std::vector<std::string>& Win32DialogView::listTexts(int id) const {
     texts.clear();
     if (count <= 0) return texts;
     texts.reserve(static_cast<std::size_t>(count));
-    if (const auto longest = longest_.find(id); longest != longest_.end()) {
-        // An ANSI text comes back through the list's own UTF-16 copy, so a
-        // byte may return as up to three (a lone byte of a multibyte code page).
-        const std::size_t room = longest->second * 3;
-        std::string buffer(room + 1, '\0');
-        for (LRESULT i = 0; i < count; ++i) {
-            const LRESULT got = send(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(buffer.data()));
-            texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, static_cast<LRESULT>(room))));
-        }
-        return texts;
-    }
-    std::string buffer(64, '\0');
+    // For a list this view filled, one message an item into a buffer that
+    // fits the longest text put in (an ANSI text comes back through the list's
+    // UTF-16 copy, so a byte may return as up to three); otherwise each
+    // item's length is asked first.
+    const auto known = longest_.find(id);
+    const bool bounded = known != longest_.end();
+    const auto bound = bounded ? static_cast<LRESULT>(known->second * 3) : 0;
+    std::string buffer(static_cast<std::size_t>(bound) + 1, '\0');
     for (LRESULT i = 0; i < count; ++i) {
-        const LRESULT length = send(list, LB_GETTEXTLEN, static_cast<WPARAM>(i));
-        if (length <= 0) {
+        const LRESULT room = bounded ? bound : send(list, LB_GETTEXTLEN, static_cast<WPARAM>(i));
+        if (room <= 0) {
             texts.emplace_back();
             continue;
         }
-        if (static_cast<std::size_t>(length) + 1 > buffer.size()) buffer.resize(static_cast<std::size_t>(length) + 1);
+        if (static_cast<std::size_t>(room) + 1 > buffer.size()) buffer.resize(static_cast<std::size_t>(room) + 1);
         const LRESULT got = send(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(buffer.data()));
-        texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, length)));
+        texts.emplace_back(buffer.data(), static_cast<std::size_t>(std::clamp<LRESULT>(got, 0, room)));
     }
     return texts;
 }

@@ -9,6 +9,7 @@
 #include <random>
 #include <vector>
 
+#include "resources/common_ids.h"
 #include "standin/host_state.h"
 #include "standin/win/help_catcher.h"
 #include "standin/win/library.h"
@@ -83,18 +84,13 @@ Counts counts() {
     return c;
 }
 
-struct ButtonPick {
-    std::vector<int> ids;
-};
-
 BOOL CALLBACK collectButton(HWND child, LPARAM found) {
-    char name[16] = {};
-    GetClassNameA(child, name, sizeof name);
     const int id = GetDlgCtrlID(child);
-    // Help would start the help viewer; the rest a user may press at random.
-    if (lstrcmpiA(name, "Button") == 0 && IsWindowVisible(child) && IsWindowEnabled(child) && id != 12 &&
-        id != 9 && id > 0)
-        reinterpret_cast<ButtonPick*>(found)->ids.push_back(id);
+    // Help would start the help viewer (the library's Help button, or the
+    // system's IDHELP); the rest a user may press at random.
+    if (hasClass(child, "Button") && IsWindowVisible(child) && IsWindowEnabled(child) && id != IDC_HELPBUTTON &&
+        id != IDHELP && id > 0)
+        reinterpret_cast<std::vector<int>*>(found)->push_back(id);
     return TRUE;
 }
 
@@ -149,14 +145,14 @@ private:
             return;
         }
         --actionsLeft_;
-        ButtonPick pick;
-        EnumChildWindows(top, collectButton, reinterpret_cast<LPARAM>(&pick));
-        if (pick.ids.empty()) {
+        std::vector<int> buttons;
+        EnumChildWindows(top, collectButton, reinterpret_cast<LPARAM>(&buttons));
+        if (buttons.empty()) {
             backend_.dismissTop();
             return;
         }
         ++actions_;
-        backend_.click(pick.ids[random_() % pick.ids.size()]);
+        backend_.click(buttons[random_() % buttons.size()]);
     }
 
     std::FILE* out_;

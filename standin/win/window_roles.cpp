@@ -9,12 +9,6 @@ namespace kvs::standin {
 
 namespace {
 
-bool hasClass(HWND window, const char* name) {
-    std::array<char, 64> buffer{};
-    return GetClassNameA(window, buffer.data(), static_cast<int>(buffer.size())) > 0 &&
-           lstrcmpiA(buffer.data(), name) == 0;
-}
-
 BOOL CALLBACK findMenu(HWND window, LPARAM found) {
     if (isMenuWindow(window) && IsWindowVisible(window)) {
         *reinterpret_cast<HWND*>(found) = window;
@@ -37,6 +31,12 @@ bool visibleChild(HWND parent, int id) {
 }
 
 }  // namespace
+
+bool hasClass(HWND window, const char* name) {
+    std::array<char, 64> buffer{};
+    return GetClassNameA(window, buffer.data(), static_cast<int>(buffer.size())) > 0 &&
+           lstrcmpiA(buffer.data(), name) == 0;
+}
 
 bool isDialogWindow(HWND window) {
     return window && hasClass(window, "#32770") && !(GetWindowLongA(window, GWL_STYLE) & WS_CHILD);

@@ -24,6 +24,7 @@ inline constexpr int kFontSizeCombo = 0x472;
 inline constexpr int kMessageTextId = 0xFFFF;
 inline constexpr int kMessageIconId = 0x440;
 
+bool hasClass(HWND window, const char* name);  // the window's class name, ignoring case
 bool isDialogWindow(HWND window);  // a top-level #32770
 bool isMenuWindow(HWND window);    // a popup menu (#32768)
 

@@ -41,10 +41,7 @@ void WindowWatch::stop() {
 LRESULT CALLBACK WindowWatch::onCreate(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_CREATEWND && current) {
         const auto window = reinterpret_cast<HWND>(wParam);
-        const auto* create = reinterpret_cast<const CBT_CREATEWNDA*>(lParam);
-        char name[16] = {};
-        const bool dialogClass = GetClassNameA(window, name, sizeof name) > 0 && lstrcmpiA(name, "#32770") == 0;
-        if (dialogClass && create->lpcs && !(create->lpcs->style & WS_CHILD)) {
+        if (isDialogWindow(window)) {
             const auto original = reinterpret_cast<WNDPROC>(
                 SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&dialogProcedure)));
             if (original) current->subclassed_[window] = original;

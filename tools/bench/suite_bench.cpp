@@ -5,13 +5,13 @@
 //   kvs_suite_bench tests/scenarios/*.scn tests/scenarios/headless/*.scn
 #include <chrono>
 #include <cstdio>
-#include <fstream>
-#include <sstream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "headless/embedded_resources.h"
 #include "headless/headless_backend.h"
+#include "tools/scenario/text_file.h"
 
 namespace {
 
@@ -30,14 +30,12 @@ std::size_t dialogLines(const std::string& transcript) {
 int main(int argc, char** argv) {
     std::vector<std::string> sources;
     for (int i = 1; i < argc; ++i) {
-        std::ifstream in(argv[i], std::ios::binary);
-        std::ostringstream text;
-        text << in.rdbuf();
-        if (!in) {
+        std::optional<std::string> source = kvs::scenario::readTextFile(argv[i]);
+        if (!source) {
             std::fprintf(stderr, "suite_bench: cannot read %s\n", argv[i]);
             return 2;
         }
-        sources.push_back(text.str());
+        sources.push_back(std::move(*source));
     }
     if (sources.empty()) {
         std::fprintf(stderr, "usage: kvs_suite_bench FILE.scn...\n");

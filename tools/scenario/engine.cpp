@@ -27,25 +27,20 @@ const ListTransferRow* rowForTarget(int targetId) {
 std::optional<std::vector<int>> indicesOf(const std::optional<ControlInfo>& list,
                                           const std::vector<std::string>& names) {
     if (!list || list->kind != ControlKind::ListBox) return std::nullopt;
+    // One pass over the list for the first place of each wanted name: a
+    // table of the few names asked for, not of a list of 100,000 items.
+    std::unordered_map<std::string_view, int> firstIndex;
+    for (const std::string& name : names) firstIndex.emplace(name, -1);
+    for (std::size_t i = 0; i < list->items.size(); ++i) {
+        const auto wanted = firstIndex.find(list->items[i]);
+        if (wanted != firstIndex.end() && wanted->second < 0) wanted->second = static_cast<int>(i);
+    }
     std::vector<int> indices;
     indices.reserve(names.size());
-    // A few names are found by scanning: building a table of a 100,000-item
-    // list for them would cost more than the scans.
-    if (names.size() <= 16) {
-        for (const std::string& name : names) {
-            const auto it = std::find(list->items.begin(), list->items.end(), name);
-            if (it == list->items.end()) return std::nullopt;
-            indices.push_back(static_cast<int>(it - list->items.begin()));
-        }
-        return indices;
-    }
-    std::unordered_map<std::string_view, int> firstIndex;
-    firstIndex.reserve(list->items.size());
-    for (std::size_t i = 0; i < list->items.size(); ++i) firstIndex.emplace(list->items[i], static_cast<int>(i));
     for (const std::string& name : names) {
-        const auto it = firstIndex.find(name);
-        if (it == firstIndex.end()) return std::nullopt;
-        indices.push_back(it->second);
+        const int index = firstIndex.at(name);
+        if (index < 0) return std::nullopt;
+        indices.push_back(index);
     }
     return indices;
 }

@@ -10,28 +10,20 @@
 //   kvs_alloc_sweep [--every=K] FILE.scn...   (K: try every K-th allocation only)
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <sstream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "headless/embedded_resources.h"
 #include "headless/headless_backend.h"
 #include "standin/kernel_state.h"
+#include "tools/scenario/text_file.h"
 
 namespace {
 
 using kvs::standin::KernelState;
 
 constexpr const char* kNoMemoryLine = "\"Doh! Not enough memory!\"";
-
-std::string readFile(const std::string& path, bool& ok) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    ok = static_cast<bool>(in);
-    return text.str();
-}
 
 }  // namespace
 
@@ -53,13 +45,13 @@ int main(int argc, char** argv) {
 
     long runs = 0, failures = 0;
     for (const std::string& file : files) {
-        bool ok = false;
-        const std::string source = readFile(file, ok);
-        if (!ok) {
+        const std::optional<std::string> read = kvs::scenario::readTextFile(file);
+        if (!read) {
             std::printf("FAIL %s: cannot read\n", file.c_str());
             ++failures;
             continue;
         }
+        const std::string& source = *read;
         const long globalBefore = kvs::headless::HeadlessRunner::liveGlobalBlocks();
         runner.run(source);
         if (kvs::headless::HeadlessRunner::liveGlobalBlocks() != globalBefore) {
