@@ -1,5 +1,6 @@
 // The composition buffer: a command line being built, bounded like the
-// 9,999-byte buffer the builders share. Text that does not fit is cut.
+// 9,999-byte buffer the data and statistics builders share, or the graph
+// builders' own 10,000-byte buffer. Text that does not fit is cut.
 #pragma once
 
 #include <cstddef>
@@ -10,13 +11,17 @@ namespace kvs {
 
 class CommandText {
 public:
-    static constexpr std::size_t kCapacity = 9999;  // bytes, the NUL included
+    static constexpr std::size_t kCapacity = 9999;        // bytes, the NUL included
+    static constexpr std::size_t kGraphCapacity = 10000;  // the graph command buffer
+    static constexpr std::size_t kHostLineCapacity = 10000;  // a host's line that options are attached to
 
     CommandText() = default;
-    explicit CommandText(std::string_view start) { append(start); }
+    explicit CommandText(std::string_view start, std::size_t capacity = kCapacity) : capacity_(capacity) {
+        append(start);
+    }
 
     CommandText& append(std::string_view text) {
-        const std::size_t room = kCapacity - 1 - text_.size();
+        const std::size_t room = capacity_ - 1 - text_.size();
         text_.append(text.substr(0, room));
         return *this;
     }
@@ -32,6 +37,7 @@ public:
     const char* c_str() const { return text_.c_str(); }
 
 private:
+    std::size_t capacity_ = kCapacity;
     std::string text_;
 };
 

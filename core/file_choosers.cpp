@@ -37,19 +37,6 @@ std::string bounded(std::string text, std::size_t capacity) {
     return text;
 }
 
-// No dialog may start while a chooser is up; a chooser opened from a
-// library dialog leaves the flag as that dialog needs it.
-class ChooserUp {
-public:
-    ChooserUp() : previous_(library().dialogUp) { library().dialogUp = true; }
-    ~ChooserUp() { library().dialogUp = previous_; }
-    ChooserUp(const ChooserUp&) = delete;
-    ChooserUp& operator=(const ChooserUp&) = delete;
-
-private:
-    bool previous_;
-};
-
 FileRecord* ownRecord(int purpose) {
     ChooserState& s = state();
     switch (purpose) {
@@ -91,6 +78,7 @@ bool chooseSaveFile(WindowRef owner, std::string_view title, std::string& path) 
     request.initialName = bounded(path, kSaveBufferCapacity);
     request.flags = kSaveFlags;
     request.capacity = kSaveBufferCapacity;
+    DialogUpScope up;  // no dialog starts while a chooser is up
     const std::optional<std::string> chosen = ui().chooseFile(request);
     if (!chosen) return false;
     path = bounded(*chosen, kSaveBufferCapacity);
@@ -134,7 +122,7 @@ int openAFile(DialogView& owner, int purpose) {
     request.capacity = kFileRecordCapacity;
     std::optional<std::string> chosen;
     {
-        ChooserUp up;
+        DialogUpScope up;
         chosen = ui().chooseFile(request);
     }
     if (!chosen) return 1;
@@ -164,6 +152,7 @@ bool browseForAFile(DialogView& owner, std::string& result, std::size_t capacity
     request.initialName = bounded(remembered, capacity);
     request.flags = kOpenFlags;
     request.capacity = capacity;
+    DialogUpScope up;
     const std::optional<std::string> chosen = ui().chooseFile(request);
     if (!chosen) return false;
     result = bounded(*chosen, capacity);

@@ -50,18 +50,6 @@ bool allocateOwnLists(const DispatchRow& row) {
     return true;
 }
 
-class DialogUpGuard {
-public:
-    explicit DialogUpGuard(bool& flag) : flag_(flag), previous_(flag) { flag_ = true; }
-    ~DialogUpGuard() { flag_ = previous_; }
-    DialogUpGuard(const DialogUpGuard&) = delete;
-    DialogUpGuard& operator=(const DialogUpGuard&) = delete;
-
-private:
-    bool& flag_;
-    bool previous_;
-};
-
 }  // namespace
 
 int launchDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner, bool subDialog) {
@@ -75,7 +63,7 @@ int launchDialog(const DispatchRow& row, Descriptor& descriptor, WindowRef owner
         showNoMemory(owner);
         return 0;
     }
-    DialogUpGuard up(lib.dialogUp);
+    DialogUpScope up;
     GenericDialog dialog(row, descriptor);
     const int result = ui().runModal(owner, row.templateName, dialog);
     if (result == -1) {

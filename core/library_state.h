@@ -27,6 +27,20 @@ struct LibraryState {
 
 LibraryState& library();
 
+// Marks a library window as up while it lives, so that no dialog starts
+// over it; a window opened from a library dialog leaves the mark as that
+// dialog needs it.
+class DialogUpScope {
+public:
+    DialogUpScope() : previous_(library().dialogUp) { library().dialogUp = true; }
+    ~DialogUpScope() { library().dialogUp = previous_; }
+    DialogUpScope(const DialogUpScope&) = delete;
+    DialogUpScope& operator=(const DialogUpScope&) = delete;
+
+private:
+    bool previous_;
+};
+
 // Sets the help path, cut to fit its buffer.
 void setHelpPath(const char* path);
 

@@ -126,7 +126,17 @@ std::string kernelName(std::int32_t number, std::int32_t width) {
     return nameFromField(std::string_view(field.data(), field.size()));
 }
 
+std::int32_t kernelNameWidth() { return std::clamp<std::int32_t>(INQFML_EX(), 1, static_cast<std::int32_t>(kNameLength)); }
+
 }  // namespace
+
+bool fileHasCharacterVariable() {
+    const std::int32_t count = GetNumVars();
+    const std::int32_t width = kernelNameWidth();
+    for (std::int32_t k = 1; k <= count; ++k)
+        if (kernelName(k, width).ends_with('$')) return true;
+    return false;
+}
 
 void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t count, bool numericOnly,
                       std::uint16_t commandId, VariableCatalogue& catalogue) {
@@ -138,7 +148,7 @@ void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t
     catalogue.clear();
     catalogue.reserve(room);
     if (commandId == 46 || commandId == 677) view.listAdd(listId, "Case", how);
-    const std::int32_t width = std::clamp<std::int32_t>(INQFML_EX(), 1, static_cast<std::int32_t>(kNameLength));
+    const std::int32_t width = kernelNameWidth();
     // Catalogue positions of the names the list shows, kept only when some
     // are left out; otherwise the list shows every position in order.
     std::vector<std::int32_t> shown;

@@ -56,6 +56,10 @@ std::string nameFromField(std::string_view field);
 void fillVariableList(DialogView& view, int listId, ListInsert how, std::int32_t count, bool numericOnly,
                       std::uint16_t commandId, VariableCatalogue& catalogue);
 
+// Whether the data file in use has a character variable (a name ending in
+// "$"), asked of the kernel whatever the dialog lists.
+bool fileHasCharacterVariable();
+
 // Shows the variables of another data file in list listId; an empty file
 // name does nothing.
 void fillListFromFile(DialogView& view, const std::string& fileName, int listId, ListInsert how,

@@ -18,10 +18,7 @@ void runEditorExtract(std::uint16_t, WindowRef owner) {
         return;
     }
     std::string path;
-    lib.dialogUp = true;
-    const bool chosen = chooseSaveFile(owner, text::kExtractTitle, path);
-    lib.dialogUp = false;
-    if (!chosen) return;
+    if (!chooseSaveFile(owner, text::kExtractTitle, path)) return;
     CommandText line(text::kExtractStart);
     line.append(path).append(text::kExtractEnd);
     queue::push(line.c_str(), nullptr);

@@ -126,9 +126,11 @@ int runImportExportOptions(WindowRef owner, std::int32_t exportFlag, std::int32_
 
 void attachImportExportOptions(char* line) {
     if (!line) return;
-    const std::size_t length = std::strlen(line);
+    const auto* end = static_cast<const char*>(std::memchr(line, '\0', kImportExportLineLimit + 1));
+    if (!end) return;
+    const auto length = static_cast<std::size_t>(end - line);
     if (length >= kImportExportLineLimit) return;
-    CommandText text(std::string_view(line, length));
+    CommandText text(std::string_view(line, length), CommandText::kHostLineCapacity);
     if (!state.allCases) {
         appendPiece(text, text::kRowsClause, state.texts[FirstCase]);
         appendPiece(text, text::kRangeSeparator, state.texts[LastCase]);

@@ -7,6 +7,7 @@
 #include "core/dialog_defaults.h"
 #include "data/composers.h"
 #include "data/data_texts.h"
+#include "data/text_pieces.h"
 
 namespace kvs::data {
 
@@ -104,7 +105,7 @@ Composition composePrintFormat(const PrintSettings& s) {
     Composition composition;
     composition.add(CommandText(text::kPrint).append(s.length == IDC_PRINT_SHORT ? text::kPrintShort : text::kPrintLong));
     CommandText format(text::kFormat);
-    format.append(s.decimals);
+    if (hasText(s.decimals)) format.append(s.decimals);
     if (s.underflow) format.append(text::kUnderflow);
     return composition.add(format);
 }

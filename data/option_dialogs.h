@@ -16,7 +16,7 @@ int runSaveAsOptions(WindowRef owner);
 // Appends " / TYPE=" and the chosen kind's keyword to a caller's line of at
 // most kSaveAsLineLimit characters; a clause that would pass it is left off.
 void attachSaveAsOptions(char* line);
-inline constexpr std::size_t kSaveAsLineLimit = CommandText::kCapacity - 1;
+inline constexpr std::size_t kSaveAsLineLimit = CommandText::kHostLineCapacity - 1;
 
 // Runs "IDD_OPTIONSIMPORTEXPORT"; exporting retitles it and picks the export
 // help topic. 1 for OK, 0 for Cancel.
@@ -24,6 +24,6 @@ int runImportExportOptions(WindowRef owner, std::int32_t exportFlag, std::int32_
 // Appends the ROWS=, COLUMNS= and RANGE= clauses of the choices to a line
 // that may grow to kImportExportLineLimit characters.
 void attachImportExportOptions(char* line);
-inline constexpr std::size_t kImportExportLineLimit = CommandText::kCapacity - 1;
+inline constexpr std::size_t kImportExportLineLimit = CommandText::kHostLineCapacity - 1;
 
 }  // namespace kvs::data

@@ -45,7 +45,7 @@ char axisLetter(int optionCode) {
 
 bool appendKeyword(CommandText& line, std::string_view prefix, std::string_view keyword, bool quote,
                    std::string_view value) {
-    if (value.empty()) return false;
+    if (value.find_first_not_of(' ') == std::string_view::npos) return false;  // blanks are no value
     line.append(' ').append(prefix).append(keyword);
     if (!quote) {
         line.append(value);

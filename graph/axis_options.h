@@ -36,9 +36,10 @@ struct AxisOptions {
 // 2016; 0 for any other code.
 char axisLetter(int optionCode);
 
-// Appends a blank, prefix, keyword and value when the value is given, and
-// returns true; appends nothing and returns false otherwise. With quote the
-// value goes in apostrophes, or in double quotes when it holds an apostrophe.
+// Appends a blank, prefix, keyword and value when the value is given (not
+// empty, not only blanks), and returns true; appends nothing and returns
+// false otherwise. With quote the value goes in apostrophes, or in double
+// quotes when it holds an apostrophe.
 bool appendKeyword(CommandText& line, std::string_view prefix, std::string_view keyword, bool quote,
                    std::string_view value);
 

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/help_requests.h"
+#include "core/library_state.h"
 #include "graph/colour_font_texts.h"
 #include "graph/colour_grid.h"
 #include "resources/colour_picker_ids.h"
@@ -59,6 +60,7 @@ private:
 int runColourPicker(WindowRef owner, float* colour) {
     if (!colour) return 0;
     ColourPicker picker(*colour);
+    DialogUpScope up;  // no dialog starts over the picker
     if (runModalWithTopic(owner, text::kColourPickerTemplate, picker, kColourPickerHelp) != 1) return 0;
     *colour = static_cast<float>(picker.value());
     return 1;

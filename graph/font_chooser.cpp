@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "core/library_state.h"
 #include "graph/colour_font_texts.h"
 #include "include/kvs_dlg.h"
 
@@ -30,6 +31,7 @@ bool chooseGraphFont(WindowRef owner) {
     request.initial.height = -(ui().screenPixelsPerInchY() / 6);
     setFace(request.initial, text::kDefaultFontFace);
     request.okText = std::string(text::kFontOkText);
+    DialogUpScope up;  // no dialog starts over the chooser
     const std::optional<KvsLogFont> answer = ui().chooseFont(request);
     if (!answer) return false;
     chosen = *answer;

@@ -54,23 +54,33 @@ void appendCommaGrouping(CommandText& line, const Names& group, bool dual) {
     appendNames(line, group, ',');
 }
 
+// The dialog's own keywords, written in each builder's order when checked
+// and enabled.
+enum class OwnWord { None, Repeat, Matrix, Stack, Range, Overlay, Tile };
+
 struct BarFamilyKind {
     int id;
     std::string_view verb;
     std::string_view name;
-    bool stack, range, tile;
+    std::array<OwnWord, 6> words;  // in the builder's order, None ends
     int optionsButton, appearanceButton;
     std::array<int, 12> codes;  // in the builder's order, 0 ends
 };
 
 // The common-axes button (507) serves 2001 to 2004 and the layout button
 // (504) 2005 and 2010 in all five.
+using W = OwnWord;
 constexpr BarFamilyKind kBarFamily[] = {
-    {103, "BAR ", "Bar", true, true, true, 506, 530, {2018, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2020}},
-    {102, "PYRAMID ", "Pyramid", false, false, false, 511, 512, {2018, 2019, 2017, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2020}},
-    {108, "DOT ", "Dot", false, false, false, 508, 503, {2021, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2007, 2008}},
-    {109, "LINE ", "Line", false, false, false, 509, 512, {2022, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2008}},
-    {1124, "PROFILE ", "Profile", true, false, false, 510, 512, {2022, 2019, 2017, 2001, 2002, 2003, 2004, 2005, 2010, 2006}},
+    {103, "BAR ", "Bar", {W::Repeat, W::Matrix, W::Stack, W::Range, W::Overlay, W::Tile}, 506, 530,
+     {2018, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2020}},
+    {102, "PYRAMID ", "Pyramid", {W::Repeat, W::Matrix, W::Overlay}, 511, 512,
+     {2018, 2019, 2017, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2020}},
+    {108, "DOT ", "Dot", {W::Repeat, W::Matrix, W::Overlay}, 508, 503,
+     {2021, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2007, 2008}},
+    {109, "LINE ", "Line", {W::Repeat, W::Matrix, W::Overlay}, 509, 512,
+     {2022, 2017, 2019, 2001, 2002, 2003, 2004, 2005, 2010, 2006, 2008}},
+    {1124, "PROFILE ", "Profile", {W::Repeat, W::Matrix, W::Overlay, W::Stack}, 510, 512,
+     {2022, 2019, 2017, 2001, 2002, 2003, 2004, 2005, 2010, 2006}},
 };
 
 const BarFamilyKind* barFamilyKind(int graphId) {
@@ -84,6 +94,18 @@ int buttonOf(const BarFamilyKind& kind, int code) {
     if (code == 2005 || code == 2010) return kLayoutButton;
     if (code == 2006 || code == 2007 || code == 2008 || code == 2020) return kind.appearanceButton;
     return kind.optionsButton;
+}
+
+void appendOwnWord(CommandText& line, OwnWord word, const BarFamilyState& s) {
+    switch (word) {
+    case OwnWord::None: break;
+    case OwnWord::Repeat: if (s.repeat) line.append(" REPEAT"); break;
+    case OwnWord::Matrix: if (s.matrix) line.append(" MATRIX"); break;
+    case OwnWord::Stack: if (s.stack) line.append(" STACK"); break;
+    case OwnWord::Range: if (s.range) line.append(" RANGE"); break;
+    case OwnWord::Overlay: if (s.overlay) line.append(" OVERLAY"); break;
+    case OwnWord::Tile: if (s.displayEnabled && s.display == 1) line.append(" TILE"); break;
+    }
 }
 
 // The first rule that fires, 0 when none does.
@@ -117,7 +139,7 @@ Composition composeBarFamily(int graphId, const BarFamilyState& s, const OptionS
     const BarFamilyKind* kind = barFamilyKind(graphId);
     if (!kind) return {};
     if (const int rule = barFamilyRule(s)) return Composition::refuse(barFamilyMessage(rule, kind->name));
-    CommandText line(kind->verb);
+    CommandText line = graphLine(kind->verb);
     if (!s.z.empty()) {
         appendNames(line, s.z, ' ');
         line.append('*');
@@ -133,16 +155,14 @@ Composition composeBarFamily(int graphId, const BarFamilyState& s, const OptionS
     }
     stripTrailing(line, '*');
     line.append(" /");
-    if (s.repeat) line.append(" REPEAT");
-    if (s.matrix) line.append(" MATRIX");
-    if (kind->stack && s.stack) line.append(" STACK");
-    if (kind->range && s.range) line.append(" RANGE");
-    if (s.overlay) line.append(" OVERLAY");
-    if (kind->tile && s.displayEnabled && s.display == 1) line.append(" TILE");
+    for (OwnWord word : kind->words) appendOwnWord(line, word, s);
     appendCommaGrouping(line, s.group, s.mirror);
     const bool threeD = !s.z.empty() && s.display == 0;
-    for (int code : kind->codes)
-        if (code != 0 && options.buttonEnabled(buttonOf(*kind, code))) options.append(line, code, threeD);
+    for (int code : kind->codes) {
+        if (code == 0 || !options.buttonEnabled(buttonOf(*kind, code))) continue;
+        if (code == 2003 && !threeD) continue;  // as in the scatterplot: no Z axis without a 3-D graph
+        options.append(line, code, threeD);
+    }
     stripTrailing(line, '/');
     return Composition().add(line);
 }
@@ -162,7 +182,7 @@ std::string_view scatterplotMessage(int number) {
 
 Composition composeScatterplot(const ScatterplotState& s, const OptionSource& options) {
     if (const int rule = scatterplotRule(s)) return Composition::refuse(scatterplotMessage(rule));
-    CommandText line("PLOT ");
+    CommandText line = graphLine("PLOT ");
     if (!s.w.empty()) {
         appendNames(line, s.w, ' ');
         line.append('*');
@@ -206,7 +226,7 @@ Composition composeScatterplot(const ScatterplotState& s, const OptionSource& op
 Composition composeHighLow(const HighLowState& s, const OptionSource& options) {
     if (s.high.empty() || s.low.empty() || s.close.empty()) return Composition::refuse(kHighLowMessage);
     // Close, High, Low: the order the command wants, not the order on screen.
-    CommandText line("PLOT ");
+    CommandText line = graphLine("PLOT ");
     line.append(s.close.front()).append(' ').append(s.high.front()).append(' ').append(s.low.front());
     if (!s.x.empty()) line.append('*').append(s.x.front());
     stripTrailing(line, '*');
@@ -220,7 +240,7 @@ Composition composeHighLow(const HighLowState& s, const OptionSource& options) {
 
 Composition composeQuantile(const QuantileState& s, const OptionSource& options) {
     if (s.x.empty()) return Composition::refuse(kQuantileMessage);
-    CommandText line("QPLOT ");
+    CommandText line = graphLine("QPLOT ");
     appendNames(line, s.y, ' ');
     if (!s.y.empty()) line.append(" * ");
     appendNames(line, s.x, ' ');

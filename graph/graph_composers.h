@@ -121,6 +121,8 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& state, const
 // The validation messages of the scatterplot (family A, 1 to 5).
 std::string_view scatterplotMessage(int number);
 
+// A graph command line, bounded by the graph builders' 10,000-byte buffer.
+inline CommandText graphLine(std::string_view verb = {}) { return CommandText(verb, CommandText::kGraphCapacity); }
 // Appends a list's names, each followed by separator, dropping the last
 // separator, within the 9,900-character bound of every list of names.
 void appendNames(CommandText& line, const Names& names, char separator);

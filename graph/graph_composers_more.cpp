@@ -37,10 +37,11 @@ void appendGrouping(CommandText& line, const Names& group, bool dual) {
     appendNames(line, group, ',');
 }
 
-// Y, " * " when Y holds a variable (and X one to follow), then X.
+// Y, " * " whenever Y holds a variable (with repeated trials and no X the
+// line keeps it: "DENSITY y * /"), then X.
 void appendSpaced(CommandText& line, const Names& y, const Names& x) {
     appendNames(line, y, ' ');
-    if (!y.empty() && !x.empty()) line.append(" * ");
+    if (!y.empty()) line.append(" * ");
     appendNames(line, x, ' ');
 }
 
@@ -70,7 +71,7 @@ std::string densityMessage(int number, int graphId) {
 Composition composeDensity(int graphId, const DensityState& s, const OptionSource& options) {
     if (graphId != 106 && graphId != 111 && graphId != 113 && graphId != 114) return {};
     if (s.x.empty() && (s.y.empty() || !s.repeatChecked)) return Composition::refuse(densityMessage(s.y.empty() ? 1 : 2, graphId));
-    CommandText line("DENSITY ");
+    CommandText line = graphLine("DENSITY ");
     const bool histogram = graphId == 111 || graphId == 114;
     if (histogram) line.append(" . * ");
     appendSpaced(line, s.y, s.x);
@@ -99,7 +100,7 @@ Composition composeDensity(int graphId, const DensityState& s, const OptionSourc
 }
 
 Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const OptionSource& options) {
-    CommandText line;
+    CommandText line = graphLine();
     switch (graphId) {
     case 129:  // pie
         if (s.x.empty()) return Composition::refuse("You must select a Category variable to produce a Pie chart.");

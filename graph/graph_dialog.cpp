@@ -9,6 +9,7 @@
 #include "core/dialog_defaults.h"
 #include "core/generic_dialog.h"
 #include "core/join_names.h"
+#include "core/variable_list.h"
 #include "graph/control_values.h"
 #include "graph/graph_specs.h"
 #include "graph/option_codes.h"
@@ -145,13 +146,13 @@ private:
         OptionButtonPress press;
         press.buttonId = button;
         press.parent = {spec_.id, view.handle(), oneWVariable(view)};
-        press.facts = facts(context);
+        press.facts = facts(context, button);
         const OptionButtonResult result = pressOptionButton(press);
         if (result.code == kTransposeItem) transposed_ = !transposed_;
         if (result.code == 2015) showWVariables(view);
     }
 
-    MenuFacts facts(DialogContext& context) const {
+    MenuFacts facts(DialogContext& context, int button) const {
         const DialogView& view = context.view;
         MenuFacts f;
         f.dialogId = spec_.id;
@@ -161,9 +162,8 @@ private:
         else
             f.zVariables = view.has(kZList) && view.listCount(kZList) > 0;
         f.wVariables = view.has(IDC_GRAPH_WLINE) && !view.text(IDC_GRAPH_WLINE).empty();
-        const VariableCatalogue& names = context.dialog.catalogue(IDC_SOURCE);
-        for (std::int32_t i = 0, n = static_cast<std::int32_t>(names.size()); i < n && !f.characterVariable; ++i)
-            f.characterVariable = names.nameAt(i).find('$') != std::string_view::npos;
+        // Only the case-labels menu asks, and the answer reads every name.
+        f.characterVariable = button == IDC_OPT_FOURIER && fileHasCharacterVariable();
         f.transposed = transposed_;
         return f;
     }

@@ -86,7 +86,10 @@ public:
         if (n.clicked(kIdOk)) return accept(view);
         if (n.clicked(kIdCancel)) return view.end(0);
         if (n.clicked(IDC_OPT_RESET)) {
+            // Reset writes the defaults into the record at once: a Cancel
+            // after it keeps them (the "set" flag is left as it was).
             values_ = defaultValues(form_);
+            if (OptionRecord* record = optionRecord(parent_.dialogId, code_)) record->values = values_;
             showValues(view, form_.fields, values_);
             return update(view);
         }

@@ -150,6 +150,9 @@ TEST(GraphComposers, BarFamily) {
     EXPECT_EQ(bar(102, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.stack = s.range = true, s.display = 1; }),
               "PYRAMID y*x ");
     EXPECT_EQ(bar(1124, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.stack = true; }), "PROFILE y*x / STACK");
+    // The profile writes STACK after OVERLAY, the bar before it.
+    EXPECT_EQ(bar(1124, [](BarFamilyState& s) { s.y = {"y"}, s.x = {"x"}, s.stack = s.overlay = true; }),
+              "PROFILE y*x / OVERLAY STACK");
     EXPECT_EQ(bar(103, [](BarFamilyState&) {}), "refused: " + barFamilyMessage(1, "Bar"));
     EXPECT_EQ(barFamilyMessage(1, "Bar"),
               "You must select an X-variable(s), or a Y-variable(s) with the Repeated trials option, or a "
@@ -167,8 +170,15 @@ TEST(GraphComposers, BarFamilyOptionOrderFollowsTheGraph) {
     options.set = {2001, 2002, 2003, 2004, 2005, 2006, 2007, 2008, 2010, 2017, 2018, 2019, 2020, 2021, 2022};
     BarFamilyState s;
     s.y = {"y"}, s.x = {"x"};
-    EXPECT_EQ(lineOf(composeBarFamily(103, s, options)), "BAR y*x / 2018 2017 2019 2001 2002 2003 2004 2005 2010 2006 2020");
-    EXPECT_EQ(lineOf(composeBarFamily(102, s, options)), "PYRAMID y*x / 2018 2019 2017 2001 2002 2003 2004 2005 2010 2006 2020");
+    // No Z-variable: the Z axis is left out, as in the scatterplot.
+    EXPECT_EQ(lineOf(composeBarFamily(103, s, options)), "BAR y*x / 2018 2017 2019 2001 2002 2004 2005 2010 2006 2020");
+    s.z = {"z"};
+    EXPECT_EQ(lineOf(composeBarFamily(102, s, options)),
+              "PYRAMID z*y*x / 2018 2019 2017 2001 2002 2003 20043D 2005 2010 2006 2020");
+    s.display = 1;  // a tiled bar chart is flat
+    EXPECT_EQ(lineOf(composeBarFamily(103, s, options)),
+              "BAR z*y*x / TILE 2018 2017 2019 2001 2002 2004 2005 2010 2006 2020");
+    s.z.clear(), s.display = 0;
     options.disabledButtons = {507};
     EXPECT_EQ(lineOf(composeBarFamily(108, s, options)), "DOT y*x / 2021 2017 2019 2005 2010 2006 2007 2008");
     EXPECT_EQ(lineOf(composeBarFamily(109, s, options)), "LINE y*x / 2022 2017 2019 2005 2010 2006 2008");
@@ -205,8 +215,11 @@ TEST(GraphComposers, DensityFamily) {
     EXPECT_EQ(density(113, [](DensityState& s) { s.y = {"y"}; }),
               "refused: You must also select an X-Variable(s) or the Repeated trials option to produce a Dot "
               "Density Plot.");
+    // The spaced style writes " * " after a Y list even with no X to follow.
     EXPECT_EQ(density(111, [](DensityState& s) { s.y = {"y"}, s.repeat = s.repeatChecked = true; }),
-              "DENSITY  . * y/ REPEAT HIST");
+              "DENSITY  . * y * / REPEAT HIST");
+    EXPECT_EQ(density(106, [](DensityState& s) { s.y = {"y"}, s.repeat = s.repeatChecked = true; }),
+              "DENSITY y *  / REPEAT BOX");
 }
 
 TEST(GraphComposers, GraphsWithFewKeywords) {

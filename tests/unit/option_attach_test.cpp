@@ -51,8 +51,8 @@ TEST_F(OptionAttachTest, ClausesStopAtTheLineLimit) {
     std::vector<char> line(10000, '\0');
     std::memset(line.data(), 'X', 9990);
     EXPECT_EQ(AttachImpExpOptions(line.data()), 1);
-    EXPECT_EQ(std::strlen(line.data()), 9998u);
-    EXPECT_EQ(std::string(line.data() + 9990), " ROWS=1.");
+    EXPECT_EQ(std::strlen(line.data()), 9999u);  // the host's 10,000 bytes, the NUL included
+    EXPECT_EQ(std::string(line.data() + 9990), " ROWS=1..");
 
     std::vector<char> full(10000, 'Y');
     full[9999] = '\0';
@@ -60,19 +60,20 @@ TEST_F(OptionAttachTest, ClausesStopAtTheLineLimit) {
     EXPECT_EQ(std::strlen(full.data()), 9999u);  // already past the bound: left as it is
 }
 
-// " / TYPE=RECT" is 12 characters: it goes on a line of 9,986 and is left
-// off a line of 9,987, whose buffer it would otherwise pass.
+// " / TYPE=RECT" is 12 characters: it goes on a line of 9,987, filling the
+// host's 10,000 bytes to the last, and is left off a line of 9,988, whose
+// buffer it would otherwise pass.
 TEST_F(OptionAttachTest, TheSaveAsClauseGoesOnWholeOrNotAtAll) {
     std::vector<char> fits(10000, '\0');
-    std::memset(fits.data(), 'X', 9986);
+    std::memset(fits.data(), 'X', 9987);
     EXPECT_EQ(AttachSaveAsOptions(fits.data()), 1);
-    EXPECT_EQ(std::strlen(fits.data()), 9998u);
-    EXPECT_EQ(std::string(fits.data() + 9986), " / TYPE=RECT");
+    EXPECT_EQ(std::strlen(fits.data()), 9999u);
+    EXPECT_EQ(std::string(fits.data() + 9987), " / TYPE=RECT");
 
     std::vector<char> tooLong(10000, '\0');
-    std::memset(tooLong.data(), 'X', 9987);
+    std::memset(tooLong.data(), 'X', 9988);
     EXPECT_EQ(AttachSaveAsOptions(tooLong.data()), 1);
-    EXPECT_EQ(std::strlen(tooLong.data()), 9987u);
+    EXPECT_EQ(std::strlen(tooLong.data()), 9988u);
 
     std::vector<char> unterminated(10000, 'Z');  // no NUL within the bound: nothing is read past it
     EXPECT_EQ(AttachSaveAsOptions(unterminated.data()), 1);
