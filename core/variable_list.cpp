@@ -35,46 +35,20 @@ void VariableCatalogue::clear() {
     chars_.clear();
     starts_.assign(1, 0);
     listed_.clear();
-    std::fill(slots_.begin(), slots_.end(), -1);
-    used_ = 0;
+    indexed_ = false;
 }
 
 void VariableCatalogue::reserve(std::size_t count) {
     chars_.reserve(count * 8);
     starts_.reserve(count + 1);
     listed_.reserve(count);
-    if (slotsFor(count) > slots_.size()) rebuild(slotsFor(count));
 }
 
 void VariableCatalogue::add(std::string_view name, bool listed) {
     chars_.append(name);
     starts_.push_back(static_cast<std::uint32_t>(chars_.size()));
     listed_.push_back(listed);
-    if (listed) insertListed(static_cast<std::int32_t>(listed_.size() - 1));
-}
-
-// A name listed twice keeps its first index.
-void VariableCatalogue::insertListed(std::int32_t index) {
-    if ((used_ + 1) * 2 > slots_.size()) rebuild(slotsFor(used_ + 1));
-    const std::string_view name = nameAt(index);
-    const std::size_t mask = slots_.size() - 1;
-    for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
-        const std::int32_t held = slots_[slot];
-        if (held < 0) {
-            slots_[slot] = index;
-            ++used_;
-            return;
-        }
-        if (nameAt(held) == name) return;
-    }
-}
-
-void VariableCatalogue::rebuild(std::size_t slotCount) {
-    slots_.assign(slotCount, -1);
-    used_ = 0;
-    for (std::size_t i = 0; i < listed_.size(); ++i) {
-        if (listed_[i]) insertListed(static_cast<std::int32_t>(i));
-    }
+    indexed_ = false;
 }
 
 void VariableCatalogue::truncate(std::size_t size) {
@@ -82,17 +56,72 @@ void VariableCatalogue::truncate(std::size_t size) {
     chars_.resize(starts_[size]);
     starts_.resize(size + 1);
     listed_.resize(size);
-    rebuild(slots_.size());
+    indexed_ = false;
+}
+
+void VariableCatalogue::buildIndex() const {
+    std::size_t listed = 0;
+    for (bool on : listed_) listed += on ? 1 : 0;
+    slots_.assign(slotsFor(listed), -1);
+    for (std::size_t i = 0; i < listed_.size(); ++i)
+        if (listed_[i]) insertListed(static_cast<std::int32_t>(i));
+    indexed_ = true;
+}
+
+// A name listed twice keeps its first index.
+void VariableCatalogue::insertListed(std::int32_t index) const {
+    const std::string_view name = nameAt(index);
+    const std::size_t mask = slots_.size() - 1;
+    for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
+        const std::int32_t held = slots_[slot];
+        if (held < 0) {
+            slots_[slot] = index;
+            return;
+        }
+        if (nameAt(held) == name) return;
+    }
 }
 
 std::int32_t VariableCatalogue::indexOf(std::string_view name) const {
-    if (slots_.empty()) return -1;
+    if (!indexed_) buildIndex();
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t slot = hashName(name) & mask;; slot = (slot + 1) & mask) {
         const std::int32_t held = slots_[slot];
         if (held < 0) return -1;
         if (nameAt(held) == name) return held;
     }
+}
+
+std::vector<std::int32_t> VariableCatalogue::indicesOf(const std::vector<std::string>& names) const {
+    std::vector<std::int32_t> found(names.size(), -1);
+    // Building the index touches every name once at random; a handful of
+    // names is found sooner by reading the names in order, and many names
+    // chosen in list order (as Add moves them) by following the list.
+    constexpr std::size_t kFewNames = 16;
+    if (indexed_ || names.size() > kFewNames) {
+        std::size_t next = 0;  // the listed name expected next
+        for (std::size_t j = 0; j < names.size(); ++j) {
+            while (!indexed_ && next < listed_.size() && !listed_[next]) ++next;
+            if (!indexed_ && next < listed_.size() && nameAt(static_cast<std::int32_t>(next)) == names[j]) {
+                found[j] = static_cast<std::int32_t>(next++);
+                continue;
+            }
+            found[j] = indexOf(names[j]);  // out of order: the index from here on
+        }
+        return found;
+    }
+    std::size_t left = names.size();
+    for (std::size_t i = 0; i < listed_.size() && left > 0; ++i) {
+        if (!listed_[i]) continue;
+        const std::string_view name = nameAt(static_cast<std::int32_t>(i));
+        for (std::size_t j = 0; j < names.size(); ++j) {
+            if (found[j] < 0 && names[j] == name) {
+                found[j] = static_cast<std::int32_t>(i);
+                --left;
+            }
+        }
+    }
+    return found;
 }
 
 std::string_view VariableCatalogue::nameAt(std::int32_t index) const {
@@ -207,9 +236,8 @@ void storeSelection(const DialogView& view, int targetId, std::int32_t capacity,
     const std::size_t room = std::min<std::size_t>(entries.size(), static_cast<std::size_t>(std::max(capacity, 0)));
     std::fill_n(entries.begin(), room, -1);
     std::size_t stored = 0;
-    for (const std::string& name : view.listTexts(targetId)) {
+    for (const std::int32_t index : catalogue.indicesOf(view.listTexts(targetId))) {
         if (stored >= room) break;
-        const std::int32_t index = catalogue.indexOf(name);
         if (index >= 0) entries[stored++] = index;
     }
 }

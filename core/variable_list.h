@@ -25,13 +25,17 @@ public:
     void truncate(std::size_t size);
     // The index of a listed name, or -1.
     std::int32_t indexOf(std::string_view name) const;
+    // The index of each listed name, -1 for a name not listed. Names that
+    // follow the list's order take their places in it (a name listed twice
+    // can then map to its second place); others map as indexOf does.
+    std::vector<std::int32_t> indicesOf(const std::vector<std::string>& names) const;
     // The name at an index, or empty when out of range.
     std::string_view nameAt(std::int32_t index) const;
     std::size_t size() const { return listed_.size(); }
 
 private:
-    void insertListed(std::int32_t index);
-    void rebuild(std::size_t slotCount);
+    void buildIndex() const;
+    void insertListed(std::int32_t index) const;
 
     // The names end to end, and where each starts (one more entry than
     // names): 100,000 names of a few characters take well under a megabyte,
@@ -39,11 +43,11 @@ private:
     std::string chars_;
     std::vector<std::uint32_t> starts_{0};
     std::vector<bool> listed_;
-    // Open addressing over the names: each slot holds the index of a listed name
-    // or -1. One flat array instead of a node per name keeps filling a list of
-    // 100,000 variables from allocating 100,000 times.
-    std::vector<std::int32_t> slots_;
-    std::size_t used_ = 0;
+    // Open addressing over the names, built on the first lookup that needs
+    // it (a dialog closed with Cancel, or whose targets hold a few names,
+    // never does): each slot holds the index of a listed name or -1.
+    mutable std::vector<std::int32_t> slots_;
+    mutable bool indexed_ = false;
 };
 
 // Cuts a blank-padded kernel name field at the first blank after its first

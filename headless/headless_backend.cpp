@@ -135,7 +135,7 @@ bool HeadlessBackend::hasControl(int id) {
     return window && window->dialog->control(id);
 }
 
-std::optional<ControlInfo> HeadlessBackend::control(int id) {
+std::optional<ControlInfo> HeadlessBackend::controlState(int id) {
     DialogWindow* window = dialog();
     const ControlState* state = window ? window->dialog->control(id) : nullptr;
     if (!state) return std::nullopt;
@@ -146,9 +146,26 @@ std::optional<ControlInfo> HeadlessBackend::control(int id) {
     info.checkable = state->def.kind == ControlKind::Button && state->def.canCheck();
     info.checked = info.checkable && d.isChecked(id);
     info.text = d.text(id);
-    for (const ListEntry& item : state->items) info.items.push_back(item.text);
     info.comboSelection = info.kind == scenario::ControlKind::ComboBox ? d.comboSelection(id) : -1;
     return info;
+}
+
+std::optional<ControlInfo> HeadlessBackend::control(int id) {
+    std::optional<ControlInfo> info = controlState(id);
+    if (!info) return info;
+    const ControlState& state = *dialog()->dialog->control(id);
+    info->items.reserve(state.items.size());
+    for (const ListEntry& item : state.items) info->items.push_back(item.text);
+    return info;
+}
+
+// Looks the names up in the list's own entries instead of a copy of them.
+std::optional<std::vector<int>> HeadlessBackend::listIndicesOf(int listId, const std::vector<std::string>& names) {
+    DialogWindow* window = dialog();
+    const ControlState* state = window ? window->dialog->control(listId) : nullptr;
+    if (!state || state->def.kind != ControlKind::ListBox) return std::nullopt;
+    return scenario::firstIndicesOf(
+        state->items.size(), [&](std::size_t i) -> std::string_view { return state->items[i].text; }, names);
 }
 
 void HeadlessBackend::selectItems(int listId, const std::vector<int>& indices) {

@@ -32,6 +32,8 @@ public:
     std::optional<int> controlByLabel(std::string_view label) override;
     bool hasControl(int id) override;
     std::optional<scenario::ControlInfo> control(int id) override;
+    std::optional<scenario::ControlInfo> controlState(int id) override;
+    std::optional<std::vector<int>> listIndicesOf(int listId, const std::vector<std::string>& names) override;
     void selectItems(int listId, const std::vector<int>& indices) override;
     void click(int id) override;
     void doubleClick(int listId, int index) override;

@@ -50,4 +50,37 @@ TEST(VariableCatalogue, GrowsPastItsReserveKeepsTheFirstOfTwinsAndForgetsWhatIsC
     EXPECT_EQ(catalogue.indexOf("V1"), 0);
 }
 
+// A few names are found by reading the names in order, many through the
+// index; both give the same answers.
+TEST(VariableCatalogue, FindsFewAndManyNamesAlike) {
+    kvs::VariableCatalogue catalogue;
+    for (int i = 0; i < 300; ++i) catalogue.add("V" + std::to_string(i), i != 7);
+    catalogue.add("V3", true);
+    const std::vector<std::string> few = {"V299", "V3", "V7", "NONE", "V3"};
+    const std::vector<std::int32_t> fewFound = {299, 3, -1, -1, 3};
+    EXPECT_EQ(catalogue.indicesOf(few), fewFound);
+
+    // Many names in list order, one out of order and one unknown among them.
+    std::vector<std::string> inOrder;
+    std::vector<std::int32_t> inOrderFound;
+    for (int i = 0; i < 300; i += 2) {
+        inOrder.push_back("V" + std::to_string(i));
+        inOrderFound.push_back(i);
+    }
+    inOrder.insert(inOrder.begin() + 50, "V1");
+    inOrderFound.insert(inOrderFound.begin() + 50, 1);
+    inOrder.push_back("NONE");
+    inOrderFound.push_back(-1);
+    EXPECT_EQ(catalogue.indicesOf(inOrder), inOrderFound);
+
+    std::vector<std::string> many;
+    std::vector<std::int32_t> manyFound;
+    for (int i = 299; i >= 0; --i) {
+        many.push_back("V" + std::to_string(i));
+        manyFound.push_back(i == 7 ? -1 : i);
+    }
+    EXPECT_EQ(catalogue.indicesOf(many), manyFound);
+    EXPECT_EQ(catalogue.indicesOf(few), fewFound) << "once the index is built, few names use it too";
+}
+
 }  // namespace

@@ -21,18 +21,15 @@ const ListTransferRow* rowForTarget(int targetId) {
     return nullptr;
 }
 
-// Indices of the names in a list (the first item of each text), or nothing
-// when one is missing. One pass over the items, so selecting N names of a
-// long list stays linear.
-std::optional<std::vector<int>> indicesOf(const std::optional<ControlInfo>& list,
-                                          const std::vector<std::string>& names) {
-    if (!list || list->kind != ControlKind::ListBox) return std::nullopt;
-    // One pass over the list for the first place of each wanted name: a
-    // table of the few names asked for, not of a list of 100,000 items.
+}  // namespace
+
+std::optional<std::vector<int>> firstIndicesOf(std::size_t count,
+                                               const std::function<std::string_view(std::size_t)>& itemAt,
+                                               const std::vector<std::string>& names) {
     std::unordered_map<std::string_view, int> firstIndex;
     for (const std::string& name : names) firstIndex.emplace(name, -1);
-    for (std::size_t i = 0; i < list->items.size(); ++i) {
-        const auto wanted = firstIndex.find(list->items[i]);
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto wanted = firstIndex.find(itemAt(i));
         if (wanted != firstIndex.end() && wanted->second < 0) wanted->second = static_cast<int>(i);
     }
     std::vector<int> indices;
@@ -45,7 +42,11 @@ std::optional<std::vector<int>> indicesOf(const std::optional<ControlInfo>& list
     return indices;
 }
 
-}  // namespace
+std::optional<std::vector<int>> Backend::listIndicesOf(int listId, const std::vector<std::string>& names) {
+    const std::optional<ControlInfo> list = control(listId);
+    if (!list || list->kind != ControlKind::ListBox) return std::nullopt;
+    return firstIndicesOf(list->items.size(), [&](std::size_t i) -> std::string_view { return list->items[i]; }, names);
+}
 
 std::string describeControl(int id, const ControlInfo& control) {
     const std::string number = std::to_string(id);
@@ -208,14 +209,14 @@ void Engine::actOnDialog(const Statement& s) {
     auto enabledControl = [&](std::size_t argument) -> int {
         const int id = needControl(argument);
         if (!id) return 0;
-        if (!backend_.control(id)->enabled) {
+        if (!backend_.controlState(id)->enabled) {
             fail(s, "control " + std::to_string(id) + " is disabled");
             return 0;
         }
         return id;
     };
     auto clickEnabled = [&](int id) {
-        const auto control = backend_.control(id);
+        const auto control = backend_.controlState(id);
         if (!control) {
             fail(s, "no control " + std::to_string(id) + " in " + quote(backend_.topText()));
         } else if (!control->enabled) {
@@ -232,13 +233,13 @@ void Engine::actOnDialog(const Statement& s) {
     } else if (k == "check" || k == "uncheck") {
         const int id = needControl(0);
         if (!id) return;
-        const auto control = backend_.control(id);
+        const auto control = backend_.controlState(id);
         if (!control->checkable) fail(s, "control " + std::to_string(id) + " cannot be checked");
         else if (control->checked != (k == "check")) clickEnabled(id);
     } else if (k == "select") {
         const int id = enabledControl(0);
         if (!id) return;
-        const auto indices = indicesOf(backend_.control(id), s.texts(1));
+        const auto indices = backend_.listIndicesOf(id, s.texts(1));
         if (!indices) fail(s, "list " + std::to_string(id) + " lacks a name");
         else backend_.selectItems(id, *indices);
     } else if (k == "add" || k == "remove") {
@@ -254,14 +255,14 @@ void Engine::actOnDialog(const Statement& s) {
         std::optional<std::vector<int>> indices;
         if (k == "add") {
             for (int source : row->sources) {
-                indices = indicesOf(backend_.control(source), names);
+                indices = backend_.listIndicesOf(source, names);
                 if (indices) {
                     list = source;
                     break;
                 }
             }
         } else {
-            indices = indicesOf(backend_.control(target), names);
+            indices = backend_.listIndicesOf(target, names);
             list = target;
         }
         if (!indices) {
@@ -273,7 +274,7 @@ void Engine::actOnDialog(const Statement& s) {
     } else if (k == "dblclick") {
         const int id = enabledControl(0);
         if (!id) return;
-        const auto indices = s.args.size() == 2 ? indicesOf(backend_.control(id), {s.args[1].text}) : std::nullopt;
+        const auto indices = s.args.size() == 2 ? backend_.listIndicesOf(id, {s.args[1].text}) : std::nullopt;
         if (!indices) fail(s, "dblclick needs a name of the list");
         else backend_.doubleClick(id, indices->front());
     } else if (k == "type") {
@@ -322,7 +323,7 @@ void Engine::actOnDialog(const Statement& s) {
         if (!id) return;
         const auto x = s.args.size() == 3 ? toNumber(s.args[1].text) : std::nullopt;
         const auto y = s.args.size() == 3 ? toNumber(s.args[2].text) : std::nullopt;
-        const auto control = backend_.control(id);
+        const auto control = backend_.controlState(id);
         if (!x || !y) fail(s, "clickat needs a control and a point X Y");
         else if (!control->enabled) fail(s, "control " + std::to_string(id) + " is disabled");
         else backend_.clickAt(id, static_cast<int>(*x), static_cast<int>(*y));

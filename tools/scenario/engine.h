@@ -42,6 +42,13 @@ struct MenuEntry {
     bool checked = false;
 };
 
+// The first index of each name among count items, itemAt(i) giving item i,
+// or nothing when one is missing. One pass over the items with a table of
+// the few names asked for, so selecting N names of a long list stays linear.
+std::optional<std::vector<int>> firstIndicesOf(std::size_t count,
+                                               const std::function<std::string_view(std::size_t)>& itemAt,
+                                               const std::vector<std::string>& names);
+
 // A menu item's text as shown: "&&" is "&", a lone "&" marks the mnemonic.
 std::string shownMenuText(std::string_view text);
 
@@ -90,6 +97,11 @@ public:
     // without reading a long list's items.
     virtual bool hasControl(int id) { return control(id).has_value(); }
     virtual std::optional<ControlInfo> control(int id) = 0;
+    // What control(id) tells but the items: the state a statement checks.
+    virtual std::optional<ControlInfo> controlState(int id) { return control(id); }
+    // The first index of each name in list listId, or nothing when the
+    // control is no list or lacks a name.
+    virtual std::optional<std::vector<int>> listIndicesOf(int listId, const std::vector<std::string>& names);
     // Selects exactly these items and notifies a selection change.
     virtual void selectItems(int listId, const std::vector<int>& indices) = 0;
     // A click as BM_CLICK gives it, with its notification.
