@@ -1,6 +1,7 @@
 // The composers of the data and graph families fed made-up settings and
-// names: each must give lines within the composition buffer (9,998
-// characters and its NUL) or a refusal, never a crash or a sanitizer report.
+// names: each must give lines within its buffer (the composition buffer's
+// 9,998 characters and its NUL; a graph line's 9,999) or a refusal, never a
+// crash or a sanitizer report.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstdint>
@@ -33,10 +34,13 @@ Names names(FuzzedDataProvider& in) {
     return list;
 }
 
-void check(const Composition& c) {
+void check(const Composition& c, std::size_t capacity = kvs::CommandText::kCapacity) {
     for (const std::string& line : c.lines)
-        if (line.size() > kvs::CommandText::kCapacity - 1) std::abort();
+        if (line.size() > capacity - 1) std::abort();
 }
+
+// Graph lines have the graph builders' 10,000-byte buffer.
+void checkGraph(const Composition& c) { check(c, kvs::CommandText::kGraphCapacity); }
 
 void check(const kvs::CommandText& line) {
     if (line.size() > kvs::CommandText::kCapacity - 1) std::abort();
@@ -108,7 +112,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.overlay = in.ConsumeBool(), s.repeat = in.ConsumeBool(), s.matrix = in.ConsumeBool();
         s.mirror = in.ConsumeBool(), s.mirrorChecked = in.ConsumeBool(), s.matrixChecked = in.ConsumeBool();
         s.display = in.ConsumeIntegralInRange(-1, 3), s.displayEnabled = in.ConsumeBool();
-        check(kvs::graph::composeScatterplot(s, options));
+        checkGraph(kvs::graph::composeScatterplot(s, options));
         break;
     }
     case 10: {
@@ -119,7 +123,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.range = in.ConsumeBool(), s.overlay = in.ConsumeBool(), s.mirror = in.ConsumeBool();
         s.display = in.ConsumeIntegralInRange(-1, 3), s.displayEnabled = in.ConsumeBool();
         const int ids[] = {102, 103, 108, 109, 1124};
-        check(kvs::graph::composeBarFamily(ids[in.ConsumeIntegralInRange(0, 4)], s, options));
+        checkGraph(kvs::graph::composeBarFamily(ids[in.ConsumeIntegralInRange(0, 4)], s, options));
         break;
     }
     case 11: {
@@ -128,7 +132,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.repeat = in.ConsumeBool(), s.repeatChecked = in.ConsumeBool(), s.overlay = in.ConsumeBool();
         s.mirror = in.ConsumeBool(), s.style = in.ConsumeIntegralInRange(-1, 8), s.display = in.ConsumeIntegralInRange(-1, 4);
         const int ids[] = {106, 111, 113, 114};
-        check(kvs::graph::composeDensity(ids[in.ConsumeIntegralInRange(0, 3)], s, options));
+        checkGraph(kvs::graph::composeDensity(ids[in.ConsumeIntegralInRange(0, 3)], s, options));
         break;
     }
     default: {
@@ -143,7 +147,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.equationLeft = in.ConsumeRandomLengthString(300), s.equationRight = in.ConsumeRandomLengthString(3000);
         s.display = in.ConsumeIntegralInRange(-1, 3);
         const int ids[] = {116, 118, 119, 120, 121, 128, 129, 146, 147};
-        check(kvs::graph::composeSimpleGraph(ids[in.ConsumeIntegralInRange(0, 8)], s, options));
+        checkGraph(kvs::graph::composeSimpleGraph(ids[in.ConsumeIntegralInRange(0, 8)], s, options));
         break;
     }
     }
