@@ -24,6 +24,8 @@ constexpr DWORD kStuckMilliseconds = 20000;
 constexpr DWORD kQuietMilliseconds = 1000;
 // The longest one scenario file may run; past it the run ends with an error.
 constexpr DWORD kFileMilliseconds = 120000;
+// Ticks a window waits on coming to the top before a statement acts on it.
+constexpr int kSettleTicks = 3;
 // Windows a scenario may leave open (modeless ones) closed at its end.
 constexpr int kLeftOpenLimit = 8;
 
@@ -77,6 +79,8 @@ private:
     DWORD lastTick_ = 0;
     DWORD waitingSince_ = 0;  // 0: not waiting
     DWORD fileStarted_ = 0;
+    HWND settledTop_ = nullptr;  // the top window statements act on
+    int settleTicks_ = 0;        // ticks waited since a new window came to the top
 };
 
 void ScenarioRun::resetHostAndKernel() {
@@ -101,6 +105,15 @@ void ScenarioRun::onTick(HWND top) {
     lastTick_ = now;
     if (top) {
         waitingSince_ = 0;
+        // A window that has just come to the top gets a few ticks before
+        // the next statement acts on it, as a user would take: a popup menu
+        // opened at once in a dialog whose sub-dialog just closed can be
+        // closed by the change of focus the window system reports late.
+        if (top != settledTop_) {
+            if (++settleTicks_ < kSettleTicks) return;
+            settledTop_ = top;
+        }
+        settleTicks_ = 0;
         if (!engine_.step()) engine_.windowLeftOpen();
         return;
     }
