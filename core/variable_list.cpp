@@ -92,33 +92,42 @@ std::int32_t VariableCatalogue::indexOf(std::string_view name) const {
     }
 }
 
-std::vector<std::int32_t> VariableCatalogue::indicesOf(const std::vector<std::string>& names) const {
+std::size_t VariableCatalogue::nextListed(std::size_t from) const {
+    while (from < listed_.size() && !listed_[from]) ++from;
+    return from;
+}
+
+// A handful of names is found sooner by reading the names once in order
+// than by building the index, which touches every name at random.
+std::vector<std::int32_t> VariableCatalogue::scanFor(const std::vector<std::string>& names) const {
     std::vector<std::int32_t> found(names.size(), -1);
-    // Building the index touches every name once at random; a handful of
-    // names is found sooner by reading the names in order, and many names
-    // chosen in list order (as Add moves them) by following the list.
-    constexpr std::size_t kFewNames = 16;
-    if (indexed_ || names.size() > kFewNames) {
-        std::size_t next = 0;  // the listed name expected next
-        for (std::size_t j = 0; j < names.size(); ++j) {
-            while (!indexed_ && next < listed_.size() && !listed_[next]) ++next;
-            if (!indexed_ && next < listed_.size() && nameAt(static_cast<std::int32_t>(next)) == names[j]) {
-                found[j] = static_cast<std::int32_t>(next++);
-                continue;
-            }
-            found[j] = indexOf(names[j]);  // out of order: the index from here on
-        }
-        return found;
-    }
     std::size_t left = names.size();
-    for (std::size_t i = 0; i < listed_.size() && left > 0; ++i) {
-        if (!listed_[i]) continue;
+    for (std::size_t i = nextListed(0); i < listed_.size() && left > 0; i = nextListed(i + 1)) {
         const std::string_view name = nameAt(static_cast<std::int32_t>(i));
         for (std::size_t j = 0; j < names.size(); ++j) {
             if (found[j] < 0 && names[j] == name) {
                 found[j] = static_cast<std::int32_t>(i);
                 --left;
             }
+        }
+    }
+    return found;
+}
+
+std::vector<std::int32_t> VariableCatalogue::indicesOf(const std::vector<std::string>& names) const {
+    constexpr std::size_t kFewNames = 16;
+    if (!indexed_ && names.size() <= kFewNames) return scanFor(names);
+    // Many names chosen in list order (as Add moves them) are found by
+    // following the list; the first one out of order builds the index.
+    std::vector<std::int32_t> found;
+    found.reserve(names.size());
+    std::size_t next = nextListed(0);
+    for (const std::string& name : names) {
+        if (!indexed_ && next < listed_.size() && nameAt(static_cast<std::int32_t>(next)) == name) {
+            found.push_back(static_cast<std::int32_t>(next));
+            next = nextListed(next + 1);
+        } else {
+            found.push_back(indexOf(name));
         }
     }
     return found;

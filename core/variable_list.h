@@ -36,6 +36,8 @@ public:
 private:
     void buildIndex() const;
     void insertListed(std::int32_t index) const;
+    std::size_t nextListed(std::size_t from) const;
+    std::vector<std::int32_t> scanFor(const std::vector<std::string>& names) const;
 
     // The names end to end, and where each starts (one more entry than
     // names): 100,000 names of a few characters take well under a megabyte,

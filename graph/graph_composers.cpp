@@ -42,18 +42,6 @@ int scatterplotRule(const ScatterplotState& s) {
     return 0;
 }
 
-// Appends each code's groups, in order.
-void appendCodes(CommandText& line, const OptionSource& options, std::initializer_list<int> codes, bool threeD) {
-    for (int code : codes) options.append(line, code, threeD);
-}
-
-// Grouping with comma-separated variables: " DUAL=" when mirrored, else " GROUP=".
-void appendCommaGrouping(CommandText& line, const Names& group, bool dual) {
-    if (group.empty()) return;
-    line.append(dual ? " DUAL=" : " GROUP=");
-    appendNames(line, group, ',');
-}
-
 // The dialog's own keywords, written in each builder's order when checked
 // and enabled.
 enum class OwnWord { None, Repeat, Matrix, Stack, Range, Overlay, Tile };
@@ -163,11 +151,31 @@ Composition composeBarFamily(int graphId, const BarFamilyState& s, const OptionS
         if (code == 2003 && !threeD) continue;  // as in the scatterplot: no Z axis without a 3-D graph
         options.append(line, code, threeD);
     }
-    stripTrailing(line, '/');
-    return Composition().add(line);
+    return finishGraphLine(line);
 }
 
 void appendNames(CommandText& line, const Names& names, char separator) { joinNames(names, line, separator); }
+
+void appendCodes(CommandText& line, const OptionSource& options, std::initializer_list<int> codes, bool threeD) {
+    for (int code : codes) options.append(line, code, threeD);
+}
+
+void appendCommaGrouping(CommandText& line, const Names& group, bool dual) {
+    if (group.empty()) return;
+    line.append(dual ? " DUAL=" : " GROUP=");
+    appendNames(line, group, ',');
+}
+
+void appendSpaced(CommandText& line, const Names& y, const Names& x) {
+    appendNames(line, y, ' ');
+    if (!y.empty()) line.append(" * ");
+    appendNames(line, x, ' ');
+}
+
+Composition finishGraphLine(CommandText& line) {
+    stripTrailing(line, '/');
+    return Composition().add(line);
+}
 
 bool isBlankText(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
 
@@ -219,8 +227,7 @@ Composition composeScatterplot(const ScatterplotState& s, const OptionSource& op
     }
     if (options.buttonEnabled(kAppearanceButton)) appendCodes(line, options, {2006, 2007, 2008}, threeD);
     if (options.buttonEnabled(kLayoutButton)) appendCodes(line, options, {2005, 2010}, threeD);
-    stripTrailing(line, '/');
-    return Composition().add(line);
+    return finishGraphLine(line);
 }
 
 Composition composeHighLow(const HighLowState& s, const OptionSource& options) {
@@ -233,23 +240,19 @@ Composition composeHighLow(const HighLowState& s, const OptionSource& options) {
     line.append("/ HILO");
     appendCommaGrouping(line, s.group, s.mirror);
     if (s.overlay) line.append(" OVERLAY");
-    appendCodes(line, options, {2013, 2019, 2001, 2002, 2004, 2006, 2007, 2008, 2005, 2010}, false);
-    stripTrailing(line, '/');
-    return Composition().add(line);
+    appendCodes(line, options, {2013, 2019, 2001, 2002, 2004, 2006, 2007, 2008, 2005, 2010});
+    return finishGraphLine(line);
 }
 
 Composition composeQuantile(const QuantileState& s, const OptionSource& options) {
     if (s.x.empty()) return Composition::refuse(kQuantileMessage);
     CommandText line = graphLine("QPLOT ");
-    appendNames(line, s.y, ' ');
-    if (!s.y.empty()) line.append(" * ");
-    appendNames(line, s.x, ' ');
+    appendSpaced(line, s.y, s.x);
     line.append('/');
     appendCommaGrouping(line, s.group, s.mirror && s.group.size() == 1);
     if (s.overlay) line.append(" OVERLAY");
-    appendCodes(line, options, {2012, 2019, 2013, 2014, 2001, 2002, 2004, 2005, 2010, 2006, 2007, 2008}, false);
-    stripTrailing(line, '/');
-    return Composition().add(line);
+    appendCodes(line, options, {2012, 2019, 2013, 2014, 2001, 2002, 2004, 2005, 2010, 2006, 2007, 2008});
+    return finishGraphLine(line);
 }
 
 }  // namespace kvs::graph

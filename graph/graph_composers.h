@@ -5,6 +5,7 @@
 // icon, with a beep) or pushing the line is the delivering step's.
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -130,5 +131,17 @@ void appendNames(CommandText& line, const Names& names, char separator);
 bool isBlankText(std::string_view text);
 // Removes one trailing character c, when the line ends in it.
 void stripTrailing(CommandText& line, char c);
+
+// The steps the builders share.
+// Appends each code's groups, in order.
+void appendCodes(CommandText& line, const OptionSource& options, std::initializer_list<int> codes,
+                 bool threeD = false);
+// Grouping with comma-separated variables: " DUAL=" when mirrored, else " GROUP=".
+void appendCommaGrouping(CommandText& line, const Names& group, bool dual);
+// The spaced style: Y, " * " whenever Y holds a variable (with repeated
+// trials and no X the line keeps it: "DENSITY y * /"), then X.
+void appendSpaced(CommandText& line, const Names& y, const Names& x);
+// Strips one trailing "/" and gives the line.
+Composition finishGraphLine(CommandText& line);
 
 }  // namespace kvs::graph

@@ -27,31 +27,8 @@ constexpr std::array<std::string_view, 13> kDistributions = {
     " NORMAL", " CHISQ=", " EXPO", " GAMMA=", " UNIFORM", " WEIBULL=", " T=", " F=", " BETA=", " LOGISTIC",
     " RANGE=", " POISSON=", " BINOMIAL="};
 
-void appendCodes(CommandText& line, const OptionSource& options, std::initializer_list<int> codes) {
-    for (int code : codes) options.append(line, code, false);
-}
-
-void appendGrouping(CommandText& line, const Names& group, bool dual) {
-    if (group.empty()) return;
-    line.append(dual ? " DUAL=" : " GROUP=");
-    appendNames(line, group, ',');
-}
-
-// Y, " * " whenever Y holds a variable (with repeated trials and no X the
-// line keeps it: "DENSITY y * /"), then X.
-void appendSpaced(CommandText& line, const Names& y, const Names& x) {
-    appendNames(line, y, ' ');
-    if (!y.empty()) line.append(" * ");
-    appendNames(line, x, ' ');
-}
-
 void appendWord(CommandText& line, std::string_view word) {
     if (!word.empty()) line.append(' ').append(word);
-}
-
-Composition finish(CommandText& line) {
-    stripTrailing(line, '/');
-    return Composition().add(line);
 }
 
 }  // namespace
@@ -79,24 +56,24 @@ Composition composeDensity(int graphId, const DensityState& s, const OptionSourc
         line.append(" /");
         if (s.repeat) line.append(" REPEAT");
         if (s.overlay) line.append(" OVERLAY");
-        appendGrouping(line, s.group, s.mirror);
+        appendCommaGrouping(line, s.group, s.mirror);
         line.append(" BOX");
         appendCodes(line, options, {2024, 2019, 2001, 2002, 2004, 2005, 2010, 2006, 2007});
-        return finish(line);
+        return finishGraphLine(line);
     }
     line.append('/');
-    appendGrouping(line, s.group, s.mirror);
+    appendCommaGrouping(line, s.group, s.mirror);
     if (s.repeat) line.append(" REPEAT");
     if (s.overlay) line.append(" OVERLAY");
     if (graphId == 113) {
         appendWord(line, at(kDotDensityStyles, s.style));
         appendCodes(line, options, {2019, 2001, 2002, 2004, 2005, 2010, 2007, 2006, 2008});
-        return finish(line);
+        return finishGraphLine(line);
     }
     appendWord(line, at(kDensityKinds, s.style));
     appendWord(line, graphId == 111 ? at(kHistogramDisplays, s.display) : at(kDensityDisplays, s.display));
     appendCodes(line, options, {2023, 2019, 2001, 2002, 2003, 2004, 2006, 2008, 2005, 2010});
-    return finish(line);
+    return finishGraphLine(line);
 }
 
 Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const OptionSource& options) {
@@ -107,29 +84,29 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
         line.append("PIE ");
         appendSpaced(line, s.y, s.x);
         line.append('/');
-        appendGrouping(line, s.group, false);
+        appendCommaGrouping(line, s.group, false);
         if (!isBlankText(s.slices)) line.append(" SLICE=").append(s.slices);
         if (s.ring) line.append(" RING");
         if (s.threeD) line.append(" THREED");
         appendCodes(line, options, {2005, 2026, 2020});
-        return finish(line);
+        return finishGraphLine(line);
     case 120:  // icon
         if (s.y.size() < 2) return Composition::refuse("You must select at least 2 Feature variables to produce an Icon Plot.");
         line.append("ICON ");
         appendNames(line, s.y, ' ');
         line.append(" /");
-        appendGrouping(line, s.group, false);
+        appendCommaGrouping(line, s.group, false);
         appendWord(line, at(kIconKinds, s.choice));
         if (s.overlay) line.append(" OVERLAY");
         if (s.transpose) line.append(" TRANSPOSE");
         appendCodes(line, options, {2027, 2019, 2001, 2002, 2005, 2010, 2006, 2007, 2008});
-        return finish(line);
+        return finishGraphLine(line);
     case 121: {  // probability plot
         if (s.x.empty()) return Composition::refuse("You must select an X-variable to produce a Probability Plot.");
         line.append("PPLOT ");
         appendSpaced(line, s.y, s.x);
         line.append('/');
-        appendGrouping(line, s.group, s.mirror);
+        appendCommaGrouping(line, s.group, s.mirror);
         if (s.overlay) line.append(" OVERLAY");
         if (s.probabilityScale) line.append(" PSCALE");
         const std::string_view distribution = at(kDistributions, s.choice);
@@ -139,7 +116,7 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
             if (!isBlankText(s.parameter2)) line.append(',').append(s.parameter2);
         }
         appendCodes(line, options, {2012, 2019, 2013, 2014, 2001, 2002, 2004, 2005, 2010, 2006, 2007, 2008});
-        return finish(line);
+        return finishGraphLine(line);
     }
     case 116:  // Andrews' Fourier plot
     case 118:  // parallel coordinates
@@ -150,29 +127,29 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
         line.append(graphId == 116 ? "FOURIER " : "PARALLEL ");
         appendNames(line, s.y, ' ');
         line.append('/');
-        appendGrouping(line, s.group, false);
+        appendCommaGrouping(line, s.group, false);
         if (s.overlay) line.append(" OVERLAY");
         appendCodes(line, options, {2025, 2001, 2002, 2004, 2006, 2008, 2005, 2010});
-        return finish(line);
+        return finishGraphLine(line);
     case 147:  // scatterplot matrix: rows * columns
         if (s.y.empty() || s.x.empty())
             return Composition::refuse("You must select a Row-variable(s) and a Column-variable(s) to produce a Scatterplot Matrix.");
         line.append("SPLOM ");
         appendSpaced(line, s.y, s.x);
         line.append('/');
-        appendGrouping(line, s.group, false);
+        appendCommaGrouping(line, s.group, false);
         if (s.half) line.append(" HALF");
         if (s.overlay) line.append(" OVERLAY");
         if (s.transpose) line.append(" TRANSPOSE");
         appendCodes(line, options, {2012, 2013, 2001, 2002, 2006, 2007, 2008, 2005, 2010});
-        return finish(line);
+        return finishGraphLine(line);
     case 128:  // map
         line.append("MAP /");
         if (const std::string_view projection = at(kProjections, s.choice); !projection.empty())
             line.append(" PROJECT=").append(projection);
         if (s.sphere) line.append(" SPHERE");
         appendCodes(line, options, {2001, 2002, 2004, 2005, 2010, 2006, 2008, 2025});
-        return finish(line);
+        return finishGraphLine(line);
     case 119:  // function plot
         if (isBlankText(s.equationLeft) || isBlankText(s.equationRight))
             return Composition::refuse("You must enter a complete equation to produce a Function plot.");

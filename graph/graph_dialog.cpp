@@ -146,14 +146,13 @@ private:
         OptionButtonPress press;
         press.buttonId = button;
         press.parent = {spec_.id, view.handle(), oneWVariable(view)};
-        press.facts = facts(context, button);
+        press.facts = facts(view);
         const OptionButtonResult result = pressOptionButton(press);
         if (result.code == kTransposeItem) transposed_ = !transposed_;
         if (result.code == 2015) showWVariables(view);
     }
 
-    MenuFacts facts(DialogContext& context, int button) const {
-        const DialogView& view = context.view;
+    MenuFacts facts(const DialogView& view) const {
         MenuFacts f;
         f.dialogId = spec_.id;
         if (spec_.id == 111 || spec_.id == 114)
@@ -162,8 +161,7 @@ private:
         else
             f.zVariables = view.has(kZList) && view.listCount(kZList) > 0;
         f.wVariables = view.has(IDC_GRAPH_WLINE) && !view.text(IDC_GRAPH_WLINE).empty();
-        // Only the case-labels menu asks, and the answer reads every name.
-        f.characterVariable = button == IDC_OPT_FOURIER && fileHasCharacterVariable();
+        f.characterVariable = fileHasCharacterVariable;
         f.transposed = transposed_;
         return f;
     }

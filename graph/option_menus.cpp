@@ -75,7 +75,7 @@ std::vector<PopupItemState> menuItemStates(int button, const MenuFacts& f) {
         states.push_back({2003, !f.zVariables, false});
         states.push_back({2002, false, false});
         break;
-    case IDC_OPT_FOURIER: states.push_back({2025, !f.characterVariable, false}); break;
+    case IDC_OPT_FOURIER: states.push_back({2025, !(f.characterVariable && f.characterVariable()), false}); break;
     case IDC_OPT_TRANS_AXES: states.push_back({kTransposeItem, false, f.transposed}); break;
     default: break;
     }

@@ -21,7 +21,9 @@ struct MenuFacts {
     int dialogId = 0;
     bool zVariables = false;      // the Z list holds a variable (or the 3-D histogram)
     bool wVariables = false;      // the triangular coordinates show W-variables
-    bool characterVariable = false;  // the file has a variable whose name ends in "$"
+    // Whether the file has a variable whose name ends in "$": asked only by
+    // the case-labels menu, since the answer reads every name.
+    bool (*characterVariable)() = nullptr;
     bool transposed = false;      // the graph's transpose setting
 };
 

@@ -43,7 +43,7 @@ std::vector<int> offeredCodes(const ResourceSet& resources, int buttonId, int di
     collectCodes(menu->items, codes);
     graph::MenuFacts facts;
     facts.dialogId = dialogId;
-    facts.characterVariable = true;  // SEX$
+    facts.characterVariable = [] { return true; };  // SEX$
     for (const PopupItemState& state : graph::menuItemStates(buttonId, facts))
         if (state.greyed) std::erase(codes, state.commandId);
     return codes;
