@@ -82,7 +82,7 @@ KVS_EXPORT int32_t KVS_CALL DoImpExpOptionsDlg(KvsWindow owner, int32_t exportFl
 
 /* Append the chosen options to a NUL-terminated command line owned by the
  * caller, whose buffer must hold 10,000 bytes. Neither lets the line pass
- * 9,998 characters: AttachSaveAsOptions leaves its clause off when it does
+ * 9,999 characters: AttachSaveAsOptions leaves its clause off when it does
  * not fit whole, AttachImpExpOptions appends the pieces that fit. Both
  * return 1. */
 KVS_EXPORT int32_t KVS_CALL AttachSaveAsOptions(char* commandLine);

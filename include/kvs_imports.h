@@ -36,11 +36,14 @@ int32_t KVS_CALL IsThisModuleNameActive(const char* module);
 /* Checks (1) or unchecks (0) the host menu entry with this command id. */
 int32_t KVS_CALL CheckMainMenuItem(uint32_t commandId, int32_t checked);
 
-/* The variables of another data file. Returns their count and stores through
- * block a block of count 13-byte entries, each a NUL-terminated name of at
- * most 12 characters. The block is allocated with the kernel's
- * reallocate_mem_ex; the library releases it with free_mem_ex. With no
- * variables (or an unreadable file) returns 0 and stores null. */
+/* The variables of another data file. fileName is the path as the user
+ * typed or chose it (never null, at most 259 characters, possibly missing).
+ * Returns their count and stores through block a block of count 13-byte
+ * entries, each a name of at most 12 characters padded with NULs to the
+ * entry's end, in file order. The block is allocated with the kernel's
+ * reallocate_mem_ex (tag 0); the library releases it with free_mem_ex. With
+ * no variables (or an unreadable file) returns 0 and stores null; a negative
+ * count is read as 0. */
 int32_t KVS_CALL GetFileVariables(const char* fileName, char** block);
 
 /* Number of variables of the data file in use. */
@@ -56,7 +59,9 @@ int32_t KVS_CALL GetMNType(int32_t commandId, int32_t selector);
 /* Non-zero when the host's MGLH module is the active one. */
 int32_t KVS_CALL IsMGLHActive(void);
 
-/* Discards command lines the host collected but has not run yet. */
+/* Discards command lines the host collected but has not run yet. Called by
+ * every graph dialog on each OK, while the dialog is still up and before
+ * any of its lines reach AddCmd. Must not call back into the library. */
 int32_t KVS_CALL AbortCommands(void);
 
 /* 0 disables the host's windows, 1 enables them again. */
@@ -64,10 +69,12 @@ int32_t KVS_CALL DoWindowEnable(int32_t enable);
 
 /* --------------------------------------------------------------- kernkvs.dll */
 
-/* Allocates or grows *block to count elements of elementSize bytes (the new
- * part zero-filled) and stores the new address through block; returns it.
- * On failure stores and returns null; the kernel then owns and releases the
- * old block. tag: 99 for the library's command queue, 0 for strings. */
+/* Allocates (*block null) or grows *block to count elements of elementSize
+ * bytes (the new part zero-filled) and stores the new address through block;
+ * returns it. On failure stores and returns null; the kernel then owns and
+ * releases the old block, which the library never touches again. tag: 99
+ * for the library's command queue, 0 for strings. The library always passes
+ * count and elementSize of at least 1. */
 void* KVS_CALL reallocate_mem_ex(void** block, int32_t count, int32_t elementSize, int32_t tag);
 
 /* Releases *block (null is allowed) and stores null through block. */
@@ -96,7 +103,8 @@ int32_t KVS_CALL INQPRT_EX(void);
 /* 1 when variable varNumber is numeric, 0 when it holds text. */
 int32_t KVS_CALL DXNUM_EX(int32_t varNumber);
 
-/* The kernel's missing-value code. */
+/* The kernel's missing-value code: the double it stores for a missing
+ * numeric value, the same on every call while the process runs. */
 double KVS_CALL DMIS_EX(void);
 
 /* Length of text without its trailing blanks. */
