@@ -28,7 +28,8 @@ struct Composition {
         lines.push_back(line.str());
         return *this;
     }
-    Composition& add(std::string_view line) { return add(CommandText(line)); }
+    // A line given whole (a line the user typed) is cut at the buffer's bound.
+    Composition& add(std::string_view line) { return add(CommandText().appendCut(line)); }
     // Appends text to the last line, within the composition buffer's bound.
     Composition& extend(std::string_view text) {
         if (!lines.empty()) lines.back() = CommandText(lines.back()).append(text).str();

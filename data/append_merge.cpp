@@ -157,6 +157,7 @@ private:
 
 void appendNames(std::string_view names, CommandText& line) {
     if (names.empty()) return;
+    const CommandText::Piece piece(line);
     line.append('(').append(names).append(')');
 }
 
@@ -185,7 +186,10 @@ bool composeMergeLine(std::string_view file1, std::string_view names1, std::stri
     appendNames(names1, line);
     line.append(' ');
     if (quoteFileName(file2, "", true, true, line)) appendNames(names2, line);
-    if (keyFlag == 1 && !keys.empty()) line.append(text::kOptionSeparator).append(keys);
+    if (keyFlag == 1 && !keys.empty()) {
+        const CommandText::Piece piece(line);
+        line.append(text::kOptionSeparator).append(keys);
+    }
     return true;
 }
 

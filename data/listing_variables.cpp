@@ -135,6 +135,7 @@ Composition composeListCases(const ListCasesSettings& s, const Names& names) {
     joinNames(names, line, ' ');
     bool slash = false;
     if (s.cases == IDC_LIST_SOME_CASES && !isBlank(s.lastCase)) {
+        const CommandText::Piece piece(line);
         line.append(text::kListCases).append(s.lastCase);
         slash = true;
     }
@@ -146,6 +147,7 @@ Composition composeListCases(const ListCasesSettings& s, const Names& names) {
     if (!isBlank(s.characters)) {
         if (!slash) line.append(text::kListSlash);
         // Without decimals the line keeps its slash and nothing more.
+        const CommandText::Piece piece(line);
         if (!isBlank(s.decimals)) line.append(text::kListFormat).append(s.characters).append(',').append(s.decimals);
     }
     return Composition().add(line);

@@ -24,6 +24,7 @@ std::string quoted(std::string_view text) {
 
 void appendQuoted(CommandText& line, std::string_view text) {
     const char mark = quoteMarkFor(text);
+    const CommandText::Piece piece(line);
     line.append(mark).append(text).append(mark);
 }
 

@@ -28,6 +28,7 @@ std::string capitals(std::string_view text) {
 // A style other than the first ("Automatic"), in capitals after its keyword.
 void appendStyle(CommandText& line, std::string_view keyword, std::string_view style, int position) {
     if (position <= 0 || style.empty()) return;
+    const CommandText::Piece piece(line);
     line.append(keyword).append(capitals(style));
 }
 
@@ -46,6 +47,7 @@ char axisLetter(int optionCode) {
 bool appendKeyword(CommandText& line, std::string_view prefix, std::string_view keyword, bool quote,
                    std::string_view value) {
     if (value.find_first_not_of(' ') == std::string_view::npos) return false;  // blanks are no value
+    const CommandText::Piece piece(line);  // the keyword with its value, whole or not at all
     line.append(' ').append(prefix).append(keyword);
     if (!quote) {
         line.append(value);
@@ -63,15 +65,22 @@ void appendAxisOptions(CommandText& line, char letter, const AxisOptions& axis) 
     appendKeyword(line, prefix, "MAX=", false, axis.maximum);
     // Both limits read XLIMIT=10 ,2: the blank before the comma is the
     // append routine's.
-    if (appendKeyword(line, prefix, "LIMIT=", false, axis.upperLimit)) appendKeyword(line, "", ",", false, axis.lowerLimit);
-    else appendKeyword(line, prefix, "LIMIT=", false, axis.lowerLimit);
+    {
+        const CommandText::Piece limits(line);
+        if (appendKeyword(line, prefix, "LIMIT=", false, axis.upperLimit)) appendKeyword(line, "", ",", false, axis.lowerLimit);
+        else appendKeyword(line, prefix, "LIMIT=", false, axis.lowerLimit);
+    }
     appendKeyword(line, prefix, "TICK=", false, axis.tick);
     appendKeyword(line, prefix, "PIP=", false, axis.pip);
     if (axis.transformation == kTransformPower) appendKeyword(line, prefix, "POW=", false, axis.power);
     else if (axis.transformation == kTransformLog) appendKeyword(line, prefix, "LOG=", false, axis.logBase);
     appendKeyword(line, prefix, "FORMAT=", false, axis.decimals);
-    if (axis.grid) line.append(' ').append(prefix).append("GRID");
-    if (axis.reverse) line.append(' ').append(prefix).append("REV");
+    const auto appendWord = [&line, prefix](std::string_view word) {
+        const CommandText::Piece piece(line);
+        line.append(' ').append(prefix).append(word);
+    };
+    if (axis.grid) appendWord("GRID");
+    if (axis.reverse) appendWord("REV");
 }
 
 std::string_view axesStyle2d(int position) { return entry(kStyles2d, position); }

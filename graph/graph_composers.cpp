@@ -154,16 +154,35 @@ Composition composeBarFamily(int graphId, const BarFamilyState& s, const OptionS
     return finishGraphLine(line);
 }
 
-void appendNames(CommandText& line, const Names& names, char separator) { joinNames(names, line, separator); }
+void appendNames(CommandText& line, const Names& names, char separator) {
+    if (names.empty()) return;
+    if (line.size() > kJoinLimit) {
+        line.seal();
+        return;
+    }
+    const int added = joinNames(names, line, separator);
+    if (line.size() <= kJoinLimit) return;
+    // Past the bound the command ends after the name that passed it.
+    if (static_cast<std::size_t>(added) < names.size()) line.dropLast();
+    line.seal();
+}
+
+bool startList(CommandText& line, std::string_view keyword, const Names& names) {
+    if (names.empty()) return false;
+    if (line.size() > kJoinLimit || !line.fits(keyword.size() + names.front().size())) {
+        line.seal();
+        return false;
+    }
+    line.append(keyword);
+    return true;
+}
 
 void appendCodes(CommandText& line, const OptionSource& options, std::initializer_list<int> codes, bool threeD) {
     for (int code : codes) options.append(line, code, threeD);
 }
 
 void appendCommaGrouping(CommandText& line, const Names& group, bool dual) {
-    if (group.empty()) return;
-    line.append(dual ? " DUAL=" : " GROUP=");
-    appendNames(line, group, ',');
+    if (startList(line, dual ? " DUAL=" : " GROUP=", group)) appendNames(line, group, ',');
 }
 
 void appendSpaced(CommandText& line, const Names& y, const Names& x) {
@@ -209,12 +228,10 @@ Composition composeScatterplot(const ScatterplotState& s, const OptionSource& op
     if (s.overlay) line.append(" OVERLAY");
     if (s.repeat) line.append(" REPEAT");
     if (s.matrix) line.append(" MATRIX");
-    if (!s.group.empty()) {
-        if (s.mirror) line.append(" DUAL=").append(s.group.front());
-        else {
-            line.append(" GROUP=");
-            appendNames(line, s.group, ' ');
-        }
+    if (s.mirror) {
+        if (startList(line, " DUAL=", s.group)) appendNames(line, Names(s.group.begin(), s.group.begin() + 1), ' ');
+    } else if (startList(line, " GROUP=", s.group)) {
+        appendNames(line, s.group, ' ');
     }
     if (s.displayEnabled && s.display == 1) line.append(" CONTOUR");
     if (s.displayEnabled && s.display == 2) line.append(" TILE");

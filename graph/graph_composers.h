@@ -125,8 +125,14 @@ std::string_view scatterplotMessage(int number);
 // A graph command line, bounded by the graph builders' 10,000-byte buffer.
 inline CommandText graphLine(std::string_view verb = {}) { return CommandText(verb, CommandText::kGraphCapacity); }
 // Appends a list's names, each followed by separator, dropping the last
-// separator, within the 9,900-character bound of every list of names.
+// separator. A list that passes the 9,900-character bound ends the command
+// after the name that passed it: the line is sealed, so nothing follows
+// (no separator, "*", keyword or option).
 void appendNames(CommandText& line, const Names& names, char separator);
+// Writes a list's keyword (" GROUP=") when the list has names and the line
+// can still take them; past the bound it seals the line instead. True when
+// the names are to follow.
+bool startList(CommandText& line, std::string_view keyword, const Names& names);
 // A text of nothing but blanks gives no value.
 bool isBlankText(std::string_view text);
 // Removes one trailing character c, when the line ends in it.

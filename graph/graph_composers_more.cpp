@@ -1,7 +1,9 @@
 // The density-family builders and the builders with few keywords of their own.
 #include <array>
 
+#include "core/numeric_field.h"
 #include "graph/graph_composers.h"
+
 
 namespace kvs::graph {
 
@@ -27,7 +29,19 @@ constexpr std::array<std::string_view, 13> kDistributions = {
     " NORMAL", " CHISQ=", " EXPO", " GAMMA=", " UNIFORM", " WEIBULL=", " T=", " F=", " BETA=", " LOGISTIC",
     " RANGE=", " POISSON=", " BINOMIAL="};
 
+constexpr std::string_view kNotANumber = "Entry is not a valid number.";
+constexpr std::string_view kNoParameter = "You must provide a value for the selected function.";
+
+// A number field's text without its surrounding blanks; empty when blank.
+std::string_view trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+bool isNumberText(std::string_view text) { return text.empty() || parseNumber(text).has_value(); }
+
 void appendWord(CommandText& line, std::string_view word) {
+    const CommandText::Piece piece(line);
     if (!word.empty()) line.append(' ').append(word);
 }
 
@@ -81,11 +95,15 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
     switch (graphId) {
     case 129:  // pie
         if (s.x.empty()) return Composition::refuse("You must select a Category variable to produce a Pie chart.");
+        if (!isNumberText(trimmed(s.slices))) return Composition::refuse(kNotANumber);
         line.append("PIE ");
         appendSpaced(line, s.y, s.x);
         line.append('/');
         appendCommaGrouping(line, s.group, false);
-        if (!isBlankText(s.slices)) line.append(" SLICE=").append(s.slices);
+        if (!isBlankText(s.slices)) {
+            const CommandText::Piece piece(line);
+            line.append(" SLICE=").append(trimmed(s.slices));
+        }
         if (s.ring) line.append(" RING");
         if (s.threeD) line.append(" THREED");
         appendCodes(line, options, {2005, 2026, 2020});
@@ -103,17 +121,24 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
         return finishGraphLine(line);
     case 121: {  // probability plot
         if (s.x.empty()) return Composition::refuse("You must select an X-variable to produce a Probability Plot.");
+        const std::string_view distribution = at(kDistributions, s.choice);
+        const bool parameters = !distribution.empty() && distribution.back() == '=';
+        const std::string_view first = trimmed(s.parameter1), second = trimmed(s.parameter2);
+        if (parameters && first.empty()) return Composition::refuse(kNoParameter);
+        if (parameters && (!isNumberText(first) || !isNumberText(second))) return Composition::refuse(kNotANumber);
         line.append("PPLOT ");
         appendSpaced(line, s.y, s.x);
         line.append('/');
         appendCommaGrouping(line, s.group, s.mirror);
         if (s.overlay) line.append(" OVERLAY");
         if (s.probabilityScale) line.append(" PSCALE");
-        const std::string_view distribution = at(kDistributions, s.choice);
-        line.append(distribution);
-        if (!distribution.empty() && distribution.back() == '=') {
-            line.append(s.parameter1);
-            if (!isBlankText(s.parameter2)) line.append(',').append(s.parameter2);
+        {
+            const CommandText::Piece piece(line);
+            line.append(distribution);
+            if (parameters) {
+                line.append(first);
+                if (!second.empty()) line.append(',').append(second);
+            }
         }
         appendCodes(line, options, {2012, 2019, 2013, 2014, 2001, 2002, 2004, 2005, 2010, 2006, 2007, 2008});
         return finishGraphLine(line);
@@ -145,15 +170,24 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
         return finishGraphLine(line);
     case 128:  // map
         line.append("MAP /");
-        if (const std::string_view projection = at(kProjections, s.choice); !projection.empty())
+        if (const std::string_view projection = at(kProjections, s.choice); !projection.empty()) {
+            const CommandText::Piece piece(line);
             line.append(" PROJECT=").append(projection);
+        }
         if (s.sphere) line.append(" SPHERE");
         appendCodes(line, options, {2001, 2002, 2004, 2005, 2010, 2006, 2008, 2025});
         return finishGraphLine(line);
     case 119:  // function plot
         if (isBlankText(s.equationLeft) || isBlankText(s.equationRight))
             return Composition::refuse("You must enter a complete equation to produce a Function plot.");
-        line.append("FPLOT ").append(s.equationLeft).append(" = ").append(s.equationRight).append(" ;");
+        line.append("FPLOT ");
+        {
+            const CommandText::Piece piece(line);
+            line.append(s.equationLeft).append(" = ").append(s.equationRight).append(" ;");
+        }
+        // An equation the command cannot hold whole is not a complete one.
+        if (line.size() == std::string_view("FPLOT ").size())
+            return Composition::refuse("You must enter a complete equation to produce a Function plot.");
         if (s.display == 1) line.append(" CONTOUR");
         if (s.display == 2) line.append(" TILE");
         appendCodes(line, options, {2019, 2001, 2002, 2003, 2016, 2004, 2005, 2006, 2008});

@@ -57,14 +57,16 @@ public:
     bool accept(DialogContext& context, int) override {
         DialogView& view = context.view;
         readValues(view, spec_.fields, working_);
-        remember();
         AbortCommands();
         const StoredOptions options(spec_.id, view);
         const Composition composition = spec_.compose(spec_.id, view, extras(view), options);
         if (composition.refused()) {
+            // A refused OK keeps nothing: a Cancel after it gives back the
+            // settings the dialog opened with.
             showGraphMessage(view.handle(), composition.refusal);
             return false;
         }
+        remember();
         return deliver(view.handle(), composition);
     }
 

@@ -67,8 +67,8 @@ constexpr ComboEntries kAllAxesCombos[] = {
 };
 
 constexpr FormField kLayoutFields[] = {
-    {IDC_LAYOUT_HEIGHT, S::Text}, {IDC_LAYOUT_WIDTH, S::Text}, {IDC_LAYOUT_ALTITUDE, S::Text},
-    {IDC_LAYOUT_LOCX, S::Text},   {IDC_LAYOUT_LOCY, S::Text},  {IDC_LAYOUT_ROW, S::Number},
+    {IDC_LAYOUT_HEIGHT, S::Number}, {IDC_LAYOUT_WIDTH, S::Number}, {IDC_LAYOUT_ALTITUDE, S::Number},
+    {IDC_LAYOUT_LOCX, S::Number},   {IDC_LAYOUT_LOCY, S::Number},  {IDC_LAYOUT_ROW, S::Number},
     {IDC_LAYOUT_COL, S::Number},  {IDC_LAYOUT_TITLE, S::Text}, {IDC_LAYOUT_SLOPE, S::Check},
 };
 constexpr KeywordRule kLayoutRules[] = {
@@ -332,6 +332,13 @@ const NamedForm kForms[] = {
 
 bool given(std::string_view text) { return text.find_first_not_of(' ') != std::string_view::npos; }
 
+// A value as written: the blanks around a typed number are not part of it.
+std::string_view withoutBlanksAround(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 // A list's first name, or the field's text.
 std::string_view firstLine(std::string_view value) { return value.substr(0, value.find('\n')); }
 
@@ -343,13 +350,14 @@ void appendQuoted(CommandText& line, std::string_view text) {
 void appendRule(CommandText& line, const KeywordRule& r, const ControlValues& v) {
     if (r.when && !isChecked(v, r.when)) return;
     if (r.unless && isChecked(v, r.unless)) return;
+    const CommandText::Piece piece(line);  // a keyword and its value, whole or not at all
     const std::string_view value = valueOf(v, r.ids[0]);
     switch (r.rule) {
     case Rule::Bare:
         if (isChecked(v, r.ids[0])) line.append(' ').append(r.keyword);
         return;
     case Rule::Value:
-        if (given(value)) line.append(' ').append(r.keyword).append(value);
+        if (given(value)) line.append(' ').append(r.keyword).append(withoutBlanksAround(value));
         return;
     case Rule::Quoted:
         if (!given(value)) return;
@@ -389,7 +397,7 @@ void appendRule(CommandText& line, const KeywordRule& r, const ControlValues& v)
             }
             if (!given(part)) continue;
             if (!joined.empty()) joined += ',';
-            joined += part;
+            joined += withoutBlanksAround(part);
         }
         if (!joined.empty()) line.append(' ').append(r.keyword).append(joined);
         return;

@@ -1,16 +1,23 @@
 // The composers of the data and graph families fed made-up settings and
 // names: each must give lines within its buffer (the composition buffer's
 // 9,998 characters and its NUL; a graph line's 9,999) or a refusal, never a
-// crash or a sanitizer report.
+// crash or a sanitizer report. A graph line made of plain names and texts
+// must also be well formed at its bounds: no keyword without its value, no
+// "**", no quoted text left open, and a line past the list bound ends in a
+// whole name.
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstdint>
+#include <initializer_list>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "core/join_names.h"
 #include "data/composers.h"
 #include "graph/graph_composers.h"
+#include "tools/scenario/line_checks.h"
 
 namespace {
 
@@ -39,8 +46,32 @@ void check(const Composition& c, std::size_t capacity = kvs::CommandText::kCapac
         if (line.size() > capacity - 1) std::abort();
 }
 
+// Text that cannot itself make a line look malformed.
+bool plain(std::string_view text) { return text.find_first_of("*='\"") == std::string_view::npos; }
+bool plain(const Names& names) {
+    for (const std::string& name : names)
+        if (!plain(name) || name.find_first_of(" ,/") != std::string::npos) return false;
+    return true;
+}
+
 // Graph lines have the graph builders' 10,000-byte buffer.
-void checkGraph(const Composition& c) { check(c, kvs::CommandText::kGraphCapacity); }
+void checkGraph(const Composition& c, std::initializer_list<const Names*> lists = {}, bool plainTexts = true) {
+    check(c, kvs::CommandText::kGraphCapacity);
+    bool plainLists = plainTexts;
+    for (const Names* list : lists) plainLists = plainLists && plain(*list);
+    if (!plainLists) return;
+    for (const std::string& line : c.lines) {
+        if (!kvs::scenario::commandLineFault(line, kvs::CommandText::kGraphCapacity).empty()) std::abort();
+        if (line.size() <= kvs::kJoinLimit) continue;
+        // Past the bound the last word is a whole name or a keyword.
+        const std::size_t cut = line.find_last_of(" *,=/");
+        const std::string last = line.substr(cut == std::string::npos ? 0 : cut + 1);
+        bool whole = last.empty() || last.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string::npos;
+        for (const Names* list : lists)
+            for (const std::string& name : *list) whole = whole || name == last;
+        if (!whole) std::abort();
+    }
+}
 
 void check(const kvs::CommandText& line) {
     if (line.size() > kvs::CommandText::kCapacity - 1) std::abort();
@@ -112,7 +143,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.overlay = in.ConsumeBool(), s.repeat = in.ConsumeBool(), s.matrix = in.ConsumeBool();
         s.mirror = in.ConsumeBool(), s.mirrorChecked = in.ConsumeBool(), s.matrixChecked = in.ConsumeBool();
         s.display = in.ConsumeIntegralInRange(-1, 3), s.displayEnabled = in.ConsumeBool();
-        checkGraph(kvs::graph::composeScatterplot(s, options));
+        checkGraph(kvs::graph::composeScatterplot(s, options), {&s.x, &s.y, &s.z, &s.group, &s.w});
         break;
     }
     case 10: {
@@ -123,7 +154,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.range = in.ConsumeBool(), s.overlay = in.ConsumeBool(), s.mirror = in.ConsumeBool();
         s.display = in.ConsumeIntegralInRange(-1, 3), s.displayEnabled = in.ConsumeBool();
         const int ids[] = {102, 103, 108, 109, 1124};
-        checkGraph(kvs::graph::composeBarFamily(ids[in.ConsumeIntegralInRange(0, 4)], s, options));
+        checkGraph(kvs::graph::composeBarFamily(ids[in.ConsumeIntegralInRange(0, 4)], s, options),
+                   {&s.x, &s.y, &s.z, &s.group});
         break;
     }
     case 11: {
@@ -132,7 +164,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.repeat = in.ConsumeBool(), s.repeatChecked = in.ConsumeBool(), s.overlay = in.ConsumeBool();
         s.mirror = in.ConsumeBool(), s.style = in.ConsumeIntegralInRange(-1, 8), s.display = in.ConsumeIntegralInRange(-1, 4);
         const int ids[] = {106, 111, 113, 114};
-        checkGraph(kvs::graph::composeDensity(ids[in.ConsumeIntegralInRange(0, 3)], s, options));
+        checkGraph(kvs::graph::composeDensity(ids[in.ConsumeIntegralInRange(0, 3)], s, options), {&s.x, &s.y, &s.group});
         break;
     }
     default: {
@@ -147,7 +179,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         s.equationLeft = in.ConsumeRandomLengthString(300), s.equationRight = in.ConsumeRandomLengthString(3000);
         s.display = in.ConsumeIntegralInRange(-1, 3);
         const int ids[] = {116, 118, 119, 120, 121, 128, 129, 146, 147};
-        checkGraph(kvs::graph::composeSimpleGraph(ids[in.ConsumeIntegralInRange(0, 8)], s, options));
+        const bool texts = plain(s.slices) && plain(s.parameter1) && plain(s.parameter2) && plain(s.equationLeft) &&
+                           plain(s.equationRight) && !s.equationRight.empty() && s.equationRight.back() != ' ';
+        checkGraph(kvs::graph::composeSimpleGraph(ids[in.ConsumeIntegralInRange(0, 8)], s, options),
+                   {&s.x, &s.y, &s.group}, texts);
         break;
     }
     }

@@ -16,13 +16,50 @@ namespace {
 
 using kvs::CommandText;
 
-TEST(CommandText, IsCutAtItsBoundAndNeverGrowsPastIt) {
+TEST(CommandText, TakesTextWholeOrNotAtAllAndNeverGrowsPastItsBound) {
     CommandText text("SORT ");
     text.append(std::string(20000, 'A'));
-    EXPECT_EQ(text.size(), CommandText::kCapacity - 1);
+    EXPECT_EQ(text.str(), "SORT ") << "text that does not fit is left out, not cut";
+    text.append(std::string(CommandText::kCapacity - 7, 'A'));
+    EXPECT_EQ(text.size(), CommandText::kCapacity - 2);
     text.append(" / D").append('x');
-    EXPECT_EQ(text.size(), CommandText::kCapacity - 1);
-    EXPECT_EQ(text.str().substr(0, 6), "SORT A");
+    EXPECT_EQ(text.size(), CommandText::kCapacity - 1) << "the one character that fits still goes in";
+    EXPECT_EQ(text.str().back(), 'x');
+    EXPECT_FALSE(text.fits(1));
+}
+
+TEST(CommandText, APieceIsTakenBackWholeWhenAnyPartDoesNotFit) {
+    CommandText line(std::string(CommandText::kGraphCapacity - 20, 'y'), CommandText::kGraphCapacity);
+    {
+        const CommandText::Piece piece(line);
+        line.append(" XLABEL=").append('\'').append("Number of respondents").append('\'');
+    }
+    EXPECT_EQ(line.size(), CommandText::kGraphCapacity - 20) << "no keyword without its value";
+    {
+        const CommandText::Piece outer(line);
+        line.append(" YMAX=");
+        {
+            const CommandText::Piece inner(line);
+            line.append("1000");
+        }
+    }
+    EXPECT_EQ(line.str().substr(line.size() - 10), " YMAX=1000");
+    {
+        const CommandText::Piece piece(line);
+        line.append(" TICK=").append("123456789");
+    }
+    EXPECT_EQ(line.str().substr(line.size() - 10), " YMAX=1000") << "a later piece that does not fit is left out too";
+}
+
+TEST(CommandText, ASealedLineTakesNothingMoreAndFreeTextIsCut) {
+    CommandText line("PLOT a b", CommandText::kGraphCapacity);
+    line.seal();
+    line.append(" /").append('*');
+    line.dropLast();
+    EXPECT_EQ(line.str(), "PLOT a b");
+    CommandText typed;
+    typed.appendCut(std::string(20000, 'B'));
+    EXPECT_EQ(typed.size(), CommandText::kCapacity - 1);
 }
 
 class JoinNamesTest : public ::testing::Test {

@@ -7,6 +7,8 @@
 //   kvsdlg fields LENGTH DIR                    writes DIR/fields_*.scn: LENGTH characters typed
 //                                               into every edit field of every dialog and option
 //                                               sub-dialog, then OK
+//   kvsdlg bounds DIR                           writes DIR/bounds_*.scn: graph commands taken to
+//                                               the bounds of their buffer
 //
 // The wine backend runs every file in one KORVAN.exe under Wine against the
 // real kvs_dlg.dll (tools/wine/korvan.sh; build x86_64 first).
@@ -22,6 +24,7 @@
 #include <vector>
 
 #include "headless/embedded_resources.h"
+#include "headless/bound_scenarios.h"
 #include "headless/field_scenario.h"
 #include "headless/headless_backend.h"
 #include "tools/kvsdlg/wine_backend.h"
@@ -36,6 +39,7 @@ constexpr int kSecondsPerFile = 60;
 int usage() {
     std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] [--strict] FILE.scn...\n"
                  "       kvsdlg fields LENGTH DIR\n"
+                 "       kvsdlg bounds DIR\n"
                  "  --strict (headless only): a dialog touching a control its template lacks is an error line\n";
     return 2;
 }
@@ -50,6 +54,22 @@ int writeFieldScenarios(const std::string& length, const std::string& folder) {
     for (const kvs::headless::FieldScenario& scenario :
          kvs::headless::everyFieldScenario(resources, static_cast<std::size_t>(count))) {
         const std::string path = folder + "/fields_" + scenario.name + ".scn";
+        std::ofstream file(path, std::ios::binary);
+        file << scenario.source;
+        if (!file) {
+            std::cerr << "kvsdlg: cannot write " << path << "\n";
+            return 1;
+        }
+        ++written;
+    }
+    std::cout << written << " scenarios written to " << folder << "\n";
+    return 0;
+}
+
+int writeBoundScenarios(const std::string& folder) {
+    int written = 0;
+    for (const kvs::headless::BoundScenario& scenario : kvs::headless::everyBoundScenario()) {
+        const std::string path = folder + "/bounds_" + scenario.name + ".scn";
         std::ofstream file(path, std::ios::binary);
         file << scenario.source;
         if (!file) {
@@ -87,6 +107,7 @@ int main(int argc, char** argv) {
     if (argc < 3) return usage();
     const std::string command = argv[1];
     if (command == "fields") return argc == 4 ? writeFieldScenarios(argv[2], argv[3]) : usage();
+    if (command == "bounds") return argc == 3 ? writeBoundScenarios(argv[2]) : usage();
     if (command != "run" && command != "check" && command != "update") return usage();
     std::vector<std::string> files;
     bool wine = false;

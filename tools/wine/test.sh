@@ -30,4 +30,9 @@ fields="$(mktemp -d)"
 "$kvsdlg" fields "$length" "$fields" && "$kvsdlg" update "$fields"/*.scn &&
   timeout 3000 "$kvsdlg" check --backend=wine "$fields"/*.scn || status=1
 rm -rf "$fields"
+echo "== graph commands at the bounds of their buffer, headless and under Wine"
+bounds="$(mktemp -d)"
+"$kvsdlg" bounds "$bounds" && "$kvsdlg" update "$bounds"/*.scn &&
+  timeout 600 "$kvsdlg" check --backend=wine "$bounds"/*.scn || status=1
+rm -rf "$bounds"
 exit $status
