@@ -68,6 +68,22 @@ bool queueUseOf(const FileRecord* record) {
 
 }  // namespace
 
+namespace {
+
+// Runs the chooser; when Windows refuses to open it because the initial name
+// cannot be a file name (a name the user typed), it opens again with none.
+std::optional<std::string> runChooser(FileRequest request) {
+    DialogUpScope up;  // no dialog starts while a chooser is up
+    std::optional<std::string> chosen = ui().chooseFile(request);
+    if (!chosen && !request.initialName.empty() && ui().chooserError() == UiServices::kChooserInvalidFileName) {
+        request.initialName.clear();
+        chosen = ui().chooseFile(request);
+    }
+    return chosen;
+}
+
+}  // namespace
+
 bool chooseSaveFile(WindowRef owner, std::string_view title, std::string& path) {
     FileRequest request;
     request.owner = owner;
@@ -78,8 +94,7 @@ bool chooseSaveFile(WindowRef owner, std::string_view title, std::string& path) 
     request.initialName = bounded(path, kSaveBufferCapacity);
     request.flags = kSaveFlags;
     request.capacity = kSaveBufferCapacity;
-    DialogUpScope up;  // no dialog starts while a chooser is up
-    const std::optional<std::string> chosen = ui().chooseFile(request);
+    const std::optional<std::string> chosen = runChooser(request);
     if (!chosen) return false;
     path = bounded(*chosen, kSaveBufferCapacity);
     return true;
@@ -120,11 +135,7 @@ int openAFile(DialogView& owner, int purpose) {
     request.initialName = record->path;
     request.flags = kOpenFlags;
     request.capacity = kFileRecordCapacity;
-    std::optional<std::string> chosen;
-    {
-        DialogUpScope up;
-        chosen = ui().chooseFile(request);
-    }
+    const std::optional<std::string> chosen = runChooser(request);
     if (!chosen) return 1;
     record->path = bounded(*chosen, kFileRecordCapacity);
     record->state = 1;
@@ -152,8 +163,7 @@ bool browseForAFile(DialogView& owner, std::string& result, std::size_t capacity
     request.initialName = bounded(remembered, capacity);
     request.flags = kOpenFlags;
     request.capacity = capacity;
-    DialogUpScope up;
-    const std::optional<std::string> chosen = ui().chooseFile(request);
+    const std::optional<std::string> chosen = runChooser(request);
     if (!chosen) return false;
     result = bounded(*chosen, capacity);
     owner.setText(controlId, result);

@@ -231,8 +231,11 @@ public:
         return runModal(owner, templateName, handler);
     }
     virtual int messageBox(const MessageRequest& request) = 0;
-    // The chosen path, or nothing when the user cancelled.
+    // The chosen path, or nothing when the user cancelled or the chooser
+    // failed; then chooserError() says why (CommDlgExtendedError's code).
     virtual std::optional<std::string> chooseFile(const FileRequest& request) = 0;
+    static constexpr std::uint32_t kChooserInvalidFileName = 0x3002;  // FNERR_INVALIDFILENAME
+    virtual std::uint32_t chooserError() const { return 0; }
     virtual void help(const HelpRequest& request) = 0;
     // The window that has the focus (owner of some message boxes).
     virtual WindowRef focusWindow() = 0;

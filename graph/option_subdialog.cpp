@@ -2,7 +2,8 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <set>
+#include <string_view>
+#include <unordered_set>
 #include <string>
 
 #include "core/dialog_behaviour.h"
@@ -134,18 +135,27 @@ private:
         return -1;  // no limit
     }
 
-    // A name the target list holds already is not added twice.
+    // A name the target list holds already is not added twice. The names
+    // go in as the variable lists are filled: in one pass, with the list's
+    // storage reserved and its drawing held until the end.
     void add(DialogView& view, int target) {
         int left = room(view, target);
-        std::set<std::string> present;
-        for (int i = 0, n = view.listCount(target); i < n; ++i) present.insert(view.listText(target, i));
+        const std::vector<std::string>& held = view.listTexts(target);
+        std::unordered_set<std::string_view> present(held.begin(), held.end());
+        const std::vector<std::string>& source = view.listTexts(IDC_SOURCE);
+        std::vector<std::string_view> adding;
         for (int index : view.listSelection(IDC_SOURCE)) {
             if (left == 0) break;
-            std::string name = view.listText(IDC_SOURCE, index);
+            if (index < 0 || static_cast<std::size_t>(index) >= source.size()) continue;
+            const std::string_view name = source[static_cast<std::size_t>(index)];
             if (!present.insert(name).second) continue;
-            view.listAdd(target, name, listInsertRule());
+            adding.push_back(name);
             if (left > 0) --left;
         }
+        view.setRedraw(target, false);
+        view.listReserve(target, adding.size());
+        view.listAddAll(target, adding.size(), [&adding](std::size_t i) { return adding[i]; }, listInsertRule());
+        view.setRedraw(target, true);
         if (const int count = view.listCount(target); count > 0) view.listSetCurrent(target, count - 1);
         update(view);
     }

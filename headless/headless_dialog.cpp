@@ -274,6 +274,32 @@ int HeadlessDialog::listAdd(int id, std::string_view text, ListInsert how) {
     return insertEntry(*c, text, how == ListInsert::Sorted && c->def.listSorted());
 }
 
+// Sorted, the new entries are sorted among themselves and merged in: the
+// order one sorted insert after another gives, in n log n.
+HeadlessDialog::ListAddResult HeadlessDialog::listAddAll(int id, std::size_t count, const TextAt& textAt,
+                                                         ListInsert how) {
+    ControlState* c = reachKind(id, ControlKind::ListBox);
+    if (c == nullptr || how != ListInsert::Sorted || !c->def.listSorted()) return DialogView::listAddAll(id, count, textAt, how);
+    ListAddResult result;
+    const std::size_t before = c->items.size();
+    const std::size_t room = listCapacity_ > before ? listCapacity_ - before : 0;
+    result.added = std::min(count, room);
+    result.noSpace = result.added < count;
+    c->items.reserve(before + result.added);
+    for (std::size_t i = 0; i < result.added; ++i) c->items.push_back(ListEntry{cText(textAt(i)), false});
+    const auto less = [](const ListEntry& a, const ListEntry& b) { return compareListText(a.text, b.text) < 0; };
+    const auto middle = c->items.begin() + static_cast<std::ptrdiff_t>(before);
+    std::stable_sort(middle, c->items.end(), less);
+    if (c->chosen >= 0) {
+        const std::string chosen = c->items[static_cast<std::size_t>(c->chosen)].text;
+        c->chosen += static_cast<int>(std::count_if(middle, c->items.end(), [&chosen](const ListEntry& e) {
+            return compareListText(e.text, chosen) < 0;
+        }));
+    }
+    std::inplace_merge(c->items.begin(), middle, c->items.end(), less);
+    return result;
+}
+
 void HeadlessDialog::listDelete(int id, int index) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || !validIndex(c->items, index)) return;

@@ -198,7 +198,19 @@ int HeadlessUi::messageBox(const MessageRequest& request) {
     return window.answer;
 }
 
+namespace {
+// Characters no Windows file name may hold, control characters among them.
+constexpr std::string_view kInvalidNameCharacters{"<>|\"\x01\x02\x03\x04\x05\x06\x07\x08\x09\x0a\x0b\x0c\x0d\x0e\x0f"
+                                                  "\x10\x11\x12\x13\x14\x15\x16\x17\x18\x19\x1a\x1b\x1c\x1d\x1e\x1f"};
+}  // namespace
+
 std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
+    // As Windows, a chooser whose initial name cannot be a file name does
+    // not open (FNERR_INVALIDFILENAME).
+    chooserError_ = request.initialName.find_first_of(kInvalidNameCharacters) == std::string::npos
+                        ? 0
+                        : UiServices::kChooserInvalidFileName;
+    if (chooserError_ != 0) return std::nullopt;
     ChooserWindow window{request, false, std::nullopt};
     transcript_(scenario::chooserLine(request.save, request.title, shownName(request.initialName)));
     const Stacked stacked(stack_, Window{nullptr, nullptr, &window, nullptr});

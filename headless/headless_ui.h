@@ -93,6 +93,7 @@ public:
                        DialogHandler& handler) override;
     int messageBox(const MessageRequest& request) override;
     std::optional<std::string> chooseFile(const FileRequest& request) override;
+    std::uint32_t chooserError() const override { return chooserError_; }
     void help(const HelpRequest& request) override;
     WindowRef focusWindow() override;
     std::string windowTitle(WindowRef window, std::size_t capacity) override;
@@ -146,6 +147,7 @@ private:
     TranscriptSink transcript_;
     Driver driver_;
     std::string ownerTitle_;
+    std::uint32_t chooserError_ = 0;
     bool strict_ = false;
     std::vector<Window> stack_;
     BitmapRef nextBitmap_ = 0x1000;

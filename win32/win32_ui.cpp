@@ -126,7 +126,7 @@ std::optional<std::string> Win32Ui::chooseFile(const FileRequest& request) {
     dialog.Flags = request.flags;
 
     const BOOL chosen = request.save ? GetSaveFileNameA(&dialog) : GetOpenFileNameA(&dialog);
-    CommDlgExtendedError();  // asked, as the library always has, and not acted on
+    chooserError_ = chosen ? 0 : static_cast<std::uint32_t>(CommDlgExtendedError());
     if (!chosen) return std::nullopt;
     const std::size_t end = path.find('\0');
     path.resize(end == std::string::npos ? capacity - 1 : end);

@@ -12,6 +12,7 @@ public:
                        DialogHandler& handler) override;
     int messageBox(const MessageRequest& request) override;
     std::optional<std::string> chooseFile(const FileRequest& request) override;
+    std::uint32_t chooserError() const override { return chooserError_; }
     void help(const HelpRequest& request) override;
     WindowRef focusWindow() override;
     std::string windowTitle(WindowRef window, std::size_t capacity) override;
@@ -31,6 +32,9 @@ public:
     void updateWindow(DialogView& view) override;
     void attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) override;
     std::intptr_t userRequest(DialogView& view, int code, std::intptr_t value) override;
+
+private:
+    std::uint32_t chooserError_ = 0;
 };
 
 // The services installed at load.

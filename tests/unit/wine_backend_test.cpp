@@ -66,3 +66,24 @@ TEST(WineBackend, WithoutARunnerItFailsWithAReason) {
 }
 
 }  // namespace
+
+namespace kvs::tools {
+namespace {
+
+TEST(WineBackend, LongListsOfScenarioPathsRunInBatchesThatFitACommandLine) {
+    const std::vector<std::string> paths(600, std::string(60, 'p'));
+    const auto batches = commandLineBatches(paths, kScenarioPathRoom);
+    ASSERT_EQ(batches.size(), 2u);
+    EXPECT_EQ(batches.front().first, 0u);
+    EXPECT_EQ(batches.back().second, 600u);
+    EXPECT_EQ(batches[0].second, batches[1].first);
+    for (const auto& [first, last] : batches) EXPECT_LE((last - first) * 63, kScenarioPathRoom);
+    // A path longer than the room still runs, alone.
+    const auto alone = commandLineBatches({"a", std::string(40000, 'b'), "c"}, kScenarioPathRoom);
+    ASSERT_EQ(alone.size(), 3u);
+    EXPECT_EQ(alone[1], std::make_pair(std::size_t{1}, std::size_t{2}));
+    EXPECT_TRUE(commandLineBatches({}, kScenarioPathRoom).empty());
+}
+
+}  // namespace
+}  // namespace kvs::tools

@@ -25,6 +25,7 @@ std::string readAll(const std::string& path) {
 
 // The last lines of a log, for an error message.
 std::string tail(const std::string& text, std::size_t lines) {
+    if (text.empty()) return text;
     std::size_t at = text.size();
     while (lines > 0 && at > 0) {
         at = text.rfind('\n', at - 1);
@@ -128,6 +129,55 @@ bool splitScenarioOutput(const std::string& output, std::size_t fileCount, std::
     return true;
 }
 
+std::vector<std::pair<std::size_t, std::size_t>> commandLineBatches(const std::vector<std::string>& arguments,
+                                                                    std::size_t room) {
+    std::vector<std::pair<std::size_t, std::size_t>> batches;
+    std::size_t first = 0, used = 0;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::size_t length = arguments[i].size() + 3;  // a blank and the quotes Wine may add
+        if (i > first && used + length > room) {
+            batches.emplace_back(first, i);
+            first = i;
+            used = 0;
+        }
+        used += length;
+    }
+    if (first < arguments.size()) batches.emplace_back(first, arguments.size());
+    return batches;
+}
+
+namespace {
+
+// One KORVAN.exe run over some of the files.
+int runBatch(const std::string& script, const std::vector<std::string>& paths, std::vector<std::string>& transcripts,
+             std::string& error) {
+    TempFile output, log;
+    if (output.path().empty() || log.path().empty()) {
+        error = "cannot make a temporary file";
+        return 2;
+    }
+    std::vector<std::string> args = {"/bin/bash", script, "--scenario", windowsPath(output.path())};
+    args.insert(args.end(), paths.begin(), paths.end());
+    const int status = run(args, log.path());
+    if (status < 0) {
+        error = "cannot run " + script;
+        return 2;
+    }
+    const std::string produced = readAll(output.path());
+    const bool complete = splitScenarioOutput(produced, paths.size(), transcripts, error);
+    if (complete && status == 0) return 0;
+    if (produced.empty())
+        error = "the Wine run produced nothing: KORVAN.exe did not start or ended at once (status " +
+                std::to_string(status) + ")";
+    else if (complete)
+        error = "KORVAN.exe ended with status " + std::to_string(status);
+    const std::string messages = tail(readAll(log.path()), 5);
+    if (!messages.empty()) error += "\n" + messages;
+    return 1;
+}
+
+}  // namespace
+
 int runUnderWine(const std::vector<std::string>& scenarioFiles, std::vector<std::string>& transcripts,
                  std::string& error) {
     transcripts.assign(scenarioFiles.size(), std::string());
@@ -136,27 +186,25 @@ int runUnderWine(const std::vector<std::string>& scenarioFiles, std::vector<std:
         error = "no Wine runner: set KVS_WINE_SCRIPT to tools/wine/korvan.sh";
         return 2;
     }
-    TempFile output, log;
-    if (output.path().empty() || log.path().empty()) {
-        error = "cannot make a temporary file";
-        return 2;
-    }
-    std::vector<std::string> args = {"/bin/bash", script, "--scenario", windowsPath(output.path())};
+    std::vector<std::string> paths;
     for (const std::string& file : scenarioFiles) {
         std::error_code ignored;
-        args.push_back(windowsPath(std::filesystem::absolute(file, ignored).lexically_normal().string()));
+        paths.push_back(windowsPath(std::filesystem::absolute(file, ignored).lexically_normal().string()));
     }
-    const int status = run(args, log.path());
-    if (status < 0) {
-        error = "cannot run " + script;
-        return 2;
+    // Windows takes 32,767 characters of command line; the program's own
+    // path and the output's take part of it.
+    for (const auto& [first, last] : commandLineBatches(paths, kScenarioPathRoom)) {
+        const std::vector<std::string> batch(paths.begin() + static_cast<std::ptrdiff_t>(first),
+                                             paths.begin() + static_cast<std::ptrdiff_t>(last));
+        std::vector<std::string> batchTranscripts;
+        const int status = runBatch(script, batch, batchTranscripts, error);
+        for (std::size_t i = 0; i < batchTranscripts.size(); ++i) transcripts[first + i] = batchTranscripts[i];
+        if (status != 0) {
+            error = "scenarios " + std::to_string(first + 1) + " to " + std::to_string(last) + ": " + error;
+            return status;
+        }
     }
-    const bool complete = splitScenarioOutput(readAll(output.path()), scenarioFiles.size(), transcripts, error);
-    if (complete && status == 0) return 0;
-    if (complete) error = "KORVAN.exe ended with status " + std::to_string(status);
-    const std::string messages = tail(readAll(log.path()), 5);
-    if (!messages.empty()) error += "\n" + messages;
-    return 1;
+    return 0;
 }
 
 }  // namespace kvs::tools

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kvs::tools {
@@ -25,6 +26,12 @@ int runUnderWine(const std::vector<std::string>& scenarioFiles, std::vector<std:
 // False with error when a file's section is missing or the run did not end.
 bool splitScenarioOutput(const std::string& output, std::size_t fileCount, std::vector<std::string>& transcripts,
                          std::string& error);
+
+// Splits arguments into runs of consecutive ones, each taking at most room
+// characters of a command line (at least one argument a run): [first, last).
+inline constexpr std::size_t kScenarioPathRoom = 30000;
+std::vector<std::pair<std::size_t, std::size_t>> commandLineBatches(const std::vector<std::string>& arguments,
+                                                                    std::size_t room);
 
 // The Windows name Wine gives a Linux path: Z: is the root folder.
 std::string windowsPath(const std::string& absolutePath);

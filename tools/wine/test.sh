@@ -30,6 +30,13 @@ fields="$(mktemp -d)"
 "$kvsdlg" fields "$length" "$fields" && "$kvsdlg" update "$fields"/*.scn &&
   timeout 3000 "$kvsdlg" check --backend=wine "$fields"/*.scn || status=1
 rm -rf "$fields"
+echo "== 700 scenario files of long paths: more than one Windows command line holds"
+many="$(mktemp -d)"
+long="$many/a-folder-whose-long-name-makes-every-scenario-path-long"
+mkdir -p "$long"
+for i in $(seq 1 700); do printf 'start 9999\n' >"$long/scenario$i.scn"; done
+"$kvsdlg" update "$long"/*.scn >/dev/null && timeout 600 "$kvsdlg" check --backend=wine "$long"/*.scn || status=1
+rm -rf "$many"
 echo "== graph commands at the bounds of their buffer, headless and under Wine"
 bounds="$(mktemp -d)"
 "$kvsdlg" bounds "$bounds" && "$kvsdlg" update "$bounds"/*.scn &&
