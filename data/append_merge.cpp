@@ -10,7 +10,7 @@
 #include "core/join_names.h"
 #include "data/key_selection.h"
 #include "data/text_pieces.h"
-#include "data/save_file_step.h"
+#include "core/save_file_step.h"
 #include "resources/data_ids.h"
 
 namespace kvs::data {

@@ -6,7 +6,7 @@
 #include "core/messages.h"
 #include "data/composers.h"
 #include "data/data_texts.h"
-#include "data/save_file_step.h"
+#include "core/save_file_step.h"
 
 namespace kvs::data {
 

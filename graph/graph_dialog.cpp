@@ -57,6 +57,9 @@ public:
     bool accept(DialogContext& context, int) override {
         DialogView& view = context.view;
         readValues(view, spec_.fields, working_);
+        // The OK dispatcher drops what the host holds, and the builder does
+        // the same again as its own first step: the host hears both.
+        AbortCommands();
         AbortCommands();
         const StoredOptions options(spec_.id, view);
         const Composition composition = spec_.compose(spec_.id, view, extras(view), options);

@@ -238,8 +238,11 @@ WindowRef HeadlessUi::focusWindow() {
     return 0;
 }
 
-std::string HeadlessUi::windowTitle(WindowRef, std::size_t capacity) {
+// A library dialog's title is its caption; any other window is the owner.
+std::string HeadlessUi::windowTitle(WindowRef window, std::size_t capacity) {
     std::string title = ownerTitle_;
+    for (const Window& open : stack_)
+        if (open.dialog && open.dialog->dialog->handle() == window) title = open.dialog->dialog->caption();
     if (capacity == 0) return {};
     if (title.size() >= capacity) title.resize(capacity - 1);
     return title;

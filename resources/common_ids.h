@@ -24,6 +24,10 @@
 #define IDC_TARGET4         253
 #define IDC_CONTINUE        1001
 #define IDC_SAVEFILE        99
+/* The model dialogs' "Dependent:" list and its Add and Remove buttons. */
+#define IDC_DEPENDENT       240
+#define IDC_ADD_DEPENDENT   241
+#define IDC_REMOVE_DEPENDENT 242
 
 /* System commands the dialogs answer with help. */
 #define IDM_HELP_CONTENTS   801

@@ -1,6 +1,7 @@
 // The statistics family's rows. The procedure dialogs come with their
 // behaviours; until then their rows keep the launcher's facts.
 #include "stats/series_commands.h"
+#include "stats/stats_dialogs_list.h"
 #include "stats/stats_family.h"
 
 namespace kvs::stats {
@@ -44,9 +45,9 @@ constexpr DispatchRow kRows[] = {
     dialogRow(Family::Statistics, 252, "Loglin", "LogLinear Model", Launch::Standard, 2, 1, 256, 0, 0).flagged(kMarkerStartsUnset),
     dialogRow(Family::Statistics, 253, "XTabNWay", "Multiway Tables", Launch::Standard, 1, 256, 0, 2, 3),
     dialogRow(Family::Statistics, 254, "ADDTREE", "Additive Trees", Launch::Standard, 1, 256, 0, 0, 0),
-    dialogRow(Family::Statistics, 256, "Ttest", "Two-sample t-test", Launch::Standard, 1, 256, 1, 2, 2),
-    dialogRow(Family::Statistics, 257, "TtestPaired", "Paired t-test", Launch::Standard, 1, 256, 0, 0, 0),
-    dialogRow(Family::Statistics, 258, "TtestOneSample", "One-sample t-test", Launch::Standard, 1, 256, 0, 0, 0),
+    dialogRow(Family::Statistics, 256, "Ttest", "Two-sample t-test", Launch::Standard, 1, 256, 1, 2, 2).behaving(twoSampleTtestBehaviour),
+    dialogRow(Family::Statistics, 257, "TtestPaired", "Paired t-test", Launch::Standard, 1, 256, 0, 0, 0).behaving(pairedTtestBehaviour),
+    dialogRow(Family::Statistics, 258, "TtestOneSample", "One-sample t-test", Launch::Standard, 1, 256, 0, 0, 0).behaving(oneSampleTtestBehaviour),
     dialogRow(Family::Statistics, 260, "Post", "GLM: Pairwise Comparisons", Launch::Standard, 0, 256, 256, 0, 0).flagged(kKeepsStateThroughReinit),
     dialogRow(Family::Statistics, 261, "Hypothesis", "GLM: Hypothesis Test", Launch::Standard, 0, 256, 256, 0, 0).flagged(kKeepsStateThroughReinit),
     dialogRow(Family::Statistics, 262, "AnovaTest", "ANOVA: Hypothesis Test", Launch::Standard, 0, 256, 256, 0, 0).flagged(kKeepsStateThroughReinit),
@@ -73,8 +74,8 @@ constexpr DispatchRow kRows[] = {
     dialogRow(Family::Statistics, 286, "Posac", "POSAC", Launch::Standard, 1, 256, 1, 0, 0),
     dialogRow(Family::Statistics, 287, "Conjoint", "Conjoint Analysis", Launch::Graph, 1, 256, 256, 0, 0),
     dialogRow(Family::Statistics, 288, "Trees", "Trees", Launch::Standard, 1, 256, 1, 2, 2),
-    dialogRow(Family::Statistics, 289, "Logit", "Logit: Estimate Model", Launch::Standard, 1, 256, 1, 2, 2).flagged(kKeepsStateThroughReinit | kNoFirstListRestore),
-    dialogRow(Family::Statistics, 290, "LogitPost", "Logit: Hypothesis", Launch::Standard, 1, 256, 0, 0, 0).flagged(kMarkerStartsUnset),
+    dialogRow(Family::Statistics, 289, "Logit", "Logit: Estimate Model", Launch::Standard, 1, 256, 1, 2, 2).flagged(kKeepsStateThroughReinit | kNoFirstListRestore).behaving(logitBehaviour),
+    dialogRow(Family::Statistics, 290, "LogitPost", "Logit: Hypothesis", Launch::Standard, 1, 256, 0, 0, 0).flagged(kMarkerStartsUnset).behaving(logitHypothesisBehaviour),
     dialogRow(Family::Statistics, 291, "Probit", "Probit", Launch::Standard, 1, 256, 1, 0, 0),
     dialogRow(Family::Statistics, 292, "Survival", "Survival: Estimate Model", Launch::Standard, 1, 256, 1, 2, 5),
     dialogRow(Family::Statistics, 294, "TSLS", "Two Stage Least Squares", Launch::Standard, 1, 1, 1, 1, 1),

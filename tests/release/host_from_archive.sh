@@ -35,6 +35,7 @@ expected="kvs_dlg.dll $version
 AddCmd \"SORT AGE INCOME \" null
 StartDialog 72 = 1
 AbortCommands
+AbortCommands
 AddCmd \"PLOT INCOME*AGE \" null
 StartDialog 101 = 1"
 actual="$(timeout 120 "$(command -v /usr/lib/wine/wine64 || command -v wine)" KORVAN.exe --script 2>/dev/null | tr -d '\r')" || true

@@ -182,7 +182,12 @@ namespace {
 TEST(LibraryExports, DialogListAndVersion) {
     KvsDialogEntry entries[4] = {};
     const int32_t served = GetDialogList(nullptr, 0);
-    EXPECT_EQ(served, 46);  // the data and graph dialogs, and the ids that run a routine
+    // Every row with a dialog or a routine of its own, counted from the rows
+    // so that a new dialog needs no change here.
+    int written = 0;
+    for (const kvs::DispatchRow& row : kvs::dispatchTable()) written += (row.behaviour || row.special) ? 1 : 0;
+    EXPECT_EQ(served, written);
+    EXPECT_GT(served, 0);
     EXPECT_EQ(GetDialogList(entries, 4), served);
     EXPECT_EQ(entries[0].commandId, 43);
     EXPECT_STREQ(entries[0].caption, "List Cases");

@@ -1,0 +1,36 @@
+#include "core/save_file_step.h"
+
+#include "core/command_queue.h"
+#include "core/command_text.h"
+#include "core/file_choosers.h"
+#include "resources/common_ids.h"
+
+namespace kvs {
+
+namespace {
+constexpr std::string_view kSaveStart = "SAVE '";
+constexpr std::string_view kSaveEnd = "'";
+}  // namespace
+
+std::string saveLine(std::string_view path, std::string_view qualifier) {
+    CommandText line(kSaveStart);
+    line.append(path).append(kSaveEnd);
+    line.append(qualifier);
+    return line.str();
+}
+
+std::optional<std::string> chooseSaveLine(DialogView& view, std::string_view defaultName, std::string_view qualifier) {
+    if (!view.isChecked(IDC_SAVEFILE)) return std::string();
+    std::string path(defaultName);
+    if (!saveAFile(view.handle(), path)) return std::nullopt;
+    return saveLine(savedFileName(), qualifier);
+}
+
+bool runSaveFileStep(DialogView& view, std::string_view defaultName) {
+    const std::optional<std::string> line = chooseSaveLine(view, defaultName);
+    if (!line) return false;
+    if (!line->empty()) queue::push(line->c_str(), nullptr);
+    return true;
+}
+
+}  // namespace kvs

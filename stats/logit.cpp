@@ -1,0 +1,215 @@
+// Logit: Estimate Model (289) with its Options menu and the "Logit: Options"
+// sub-dialog, and Logit: Hypothesis (290).
+#include <string>
+
+#include "core/descriptor.h"
+#include "core/messages.h"
+#include "core/option_dialog.h"
+#include "core/procedure_block.h"
+#include "stats/procedure_dialog.h"
+#include "stats/stats_composers.h"
+#include "stats/stats_dialogs_list.h"
+#include "stats/stats_texts.h"
+#include "stats/stored_options.h"
+
+namespace kvs::stats {
+
+namespace {
+
+constexpr std::size_t kValueLimit = 15;  // a stored option of 16 characters with its NUL
+constexpr std::uint32_t kOptionsHelp = 1215;
+
+const Bindings<LogitOptions>& logitOptionBindings() {
+    static const Bindings<LogitOptions> bindings = [] {
+        Bindings<LogitOptions> b;
+        b.text(IDC_LOGITOPT_CONVERGE, &LogitOptions::converge, kValueLimit)
+            .text(IDC_LOGITOPT_TOLERANCE, &LogitOptions::tolerance, kValueLimit)
+            .text(IDC_LOGITOPT_START, &LogitOptions::start, kValueLimit)
+            .radio({IDC_LOGITOPT_COMPLETE, IDC_LOGITOPT_STEPWISE}, &LogitOptions::estimation)
+            .radio({IDC_LOGITOPT_FORWARD, IDC_LOGITOPT_BACKWARD}, &LogitOptions::direction)
+            .radio({IDC_LOGITOPT_AUTO, IDC_LOGITOPT_INTERACT}, &LogitOptions::stepping)
+            .text(IDC_LOGITOPT_ENTER, &LogitOptions::enter, kValueLimit)
+            .text(IDC_LOGITOPT_REMOVE, &LogitOptions::remove, kValueLimit)
+            .text(IDC_LOGITOPT_FORCE, &LogitOptions::force, kValueLimit)
+            .text(IDC_LOGITOPT_MAXSTEP, &LogitOptions::maxStep, kValueLimit);
+        // The stepwise settings count only with stepwise estimation.
+        for (int field : {IDC_LOGITOPT_FORWARD, IDC_LOGITOPT_BACKWARD, IDC_LOGITOPT_AUTO, IDC_LOGITOPT_INTERACT,
+                          IDC_LOGITOPT_ENTER, IDC_LOGITOPT_REMOVE, IDC_LOGITOPT_FORCE, IDC_LOGITOPT_MAXSTEP})
+            b.enableWith(field, IDC_LOGITOPT_STEPWISE);
+        return b;
+    }();
+    return bindings;
+}
+
+// Continue marks the options as used in this run of the dialog.
+class LogitOptionsDialog : public OptionDialog<LogitOptions> {
+public:
+    LogitOptionsDialog(LogitOptions& options, bool& used)
+        : OptionDialog(options, logitOptionBindings(), kOptionsHelp), used_(used) {}
+
+private:
+    void committed() override { used_ = true; }
+    bool& used_;
+};
+
+LogitSettings logitSettings;
+
+class LogitDialog : public ProcedureDialog<LogitSettings> {
+public:
+    LogitDialog()
+        : ProcedureDialog(logitSettings, Bindings<LogitSettings>()
+                                             .check(IDC_LOGIT_CONSTANT, &LogitSettings::constant)
+                                             .check(IDC_LOGIT_PREDICT, &LogitSettings::predict)
+                                             .check(IDC_LOGIT_QML, &LogitSettings::quasiLikelihood)) {}
+
+    std::vector<OwnList> ownLists() override {
+        return {{IDC_LOGIT_DEPENDENT, &dependents_, kListCapacity}, {IDC_TARGET3, &conditionals_, kListCapacity}};
+    }
+
+    void addDefaults(DefaultsTable& table) override {
+        ProcedureDialog::addDefaults(table);
+        table.record(dependents_);
+        table.record(conditionals_);
+    }
+
+private:
+    static constexpr std::int32_t kListCapacity = 256;
+
+    void opened(LogitSettings& settings) override { settings.optionsUsed = false; }
+
+    void changed(DialogContext& context, const Notification& n) override {
+        if (!n.clicked(IDC_LOGIT_OPTIONS)) return;
+        PopupRequest request;
+        request.owner = context.view.handle();
+        request.menuName = "LogitOptionsPopupMenu";
+        request.anchorControl = IDC_LOGIT_OPTIONS;
+        if (ui().popupMenu(request) != IDM_LOGIT_ESTIMATION) return;
+        LogitOptionsDialog options(working_.options, working_.optionsUsed);
+        ui().runModal(context.view.handle(), "LOGITOPTS", options);
+    }
+
+    ProcedureBlock compose(const LogitSettings& settings, const DialogView& view) const override {
+        LogitSettings s = settings;
+        s.constantEnabled = view.isEnabled(IDC_LOGIT_CONSTANT);
+        return composeLogit(s, listNames(view, IDC_LOGIT_DEPENDENT), listNames(view, IDC_TARGET1),
+                            listNames(view, IDC_TARGET3));
+    }
+
+    SelectionArray dependents_{};
+    SelectionArray conditionals_{};
+};
+
+// The options appender: the estimation line with the options, or the
+// stepwise lines that replace it.
+void appendOptionLines(Composition& block, CommandText& estimate, const LogitOptions& o) {
+    appendOptionUnlessDefault(estimate, text::kConverge, o.converge, text::kDefaultConverge);
+    appendOptionUnlessDefault(estimate, text::kTolerance, o.tolerance, text::kDefaultTolerance);
+    if (o.estimation != IDC_LOGITOPT_STEPWISE) {
+        block.add(estimate);
+        return;
+    }
+    CommandText step(text::kStepwiseStart);
+    step.append(o.direction == IDC_LOGITOPT_BACKWARD ? text::kBackward : text::kForward);
+    appendOptionUnlessDefault(step, text::kEnter, o.enter, text::kDefaultProbability);
+    appendOptionUnlessDefault(step, text::kRemove, o.remove, text::kDefaultProbability);
+    appendOption(step, text::kForce, o.force);
+    appendOption(step, text::kMaxStep, o.maxStep);
+    block.add(step);
+    if (o.stepping == IDC_LOGITOPT_AUTO) block.add(text::kStepAuto);
+}
+
+}  // namespace
+
+ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, const Names& independents,
+                            const Names& conditionals) {
+    if (dependents.empty()) return ProcedureBlock::refuse(text::kLogit, kvs::text::kSelectVariables);
+    CommandText model(text::kModel);
+    joinNames(dependents, model, ' ');
+    model.append(text::kEquals);
+    if (s.constant && s.constantEnabled) model.append(text::kConstant);
+    if (!conditionals.empty()) {
+        joinNames(conditionals, model, '+');
+        model.append(text::kConditionalEnd);
+    }
+    joinNames(independents, model, '+');
+    if (!model.empty() && model.str().back() == '+') model.dropLast();
+
+    Composition body;
+    body.add(model);
+    CommandText estimate(text::kEstimate);
+    if (s.predict) estimate.append(text::kPredict);
+    if (s.quasiLikelihood) estimate.append(text::kQml);
+    if (s.optionsUsed) {
+        appendOption(estimate, text::kStart, s.options.start);
+        appendOptionLines(body, estimate, s.options);
+    } else {
+        // "ESTIMATE /" with nothing after it loses its slash and reads "ESTIMATE".
+        if (!estimate.empty() && estimate.str().back() == '/') {
+            estimate.dropLast();
+            if (estimate.str().back() == ' ') estimate.dropLast();
+        }
+        body.add(estimate);
+    }
+    return {text::kLogit, text::kLogitFile, {}, std::move(body)};
+}
+
+Composition hypothesisLines(std::string_view typed) {
+    Composition lines;
+    if (isEmptyOption(typed)) return lines;
+    lines.add(text::kHypothesis);
+    bool continued = false;
+    std::string_view rest = typed;
+    while (!rest.empty()) {
+        const std::size_t end = rest.find('\r');
+        std::string_view line = rest.substr(0, end);
+        rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
+        if (!rest.empty() && rest.front() == '\n') rest.remove_prefix(1);
+        if (!line.empty() && line.back() == '\n') line.remove_suffix(1);
+        if (continued) {
+            lines.add(line);
+        } else {
+            CommandText constrain(text::kConstrain);
+            constrain.appendCut(line);
+            lines.add(constrain);
+        }
+        continued = !line.empty() && line.back() == ',';
+    }
+    lines.add(text::kTestLine);
+    return lines;
+}
+
+namespace {
+
+struct HypothesisSettings {
+    std::string text;
+};
+HypothesisSettings hypothesisSettings;
+constexpr std::size_t kHypothesisLimit = 30000;
+
+class HypothesisDialog : public ProcedureDialog<HypothesisSettings> {
+public:
+    HypothesisDialog()
+        : ProcedureDialog(hypothesisSettings, Bindings<HypothesisSettings>().text(
+                                                  IDC_HYPOTHESIS_TEXT, &HypothesisSettings::text, kHypothesisLimit)) {}
+
+    // An empty text is forgotten and the dialog stays open, without a word.
+    bool accept(DialogContext& context, int button) override {
+        if (isEmptyOption(context.view.text(IDC_HYPOTHESIS_TEXT))) {
+            stored_ = HypothesisSettings{};
+            return false;
+        }
+        return ProcedureDialog::accept(context, button);
+    }
+
+private:
+    ProcedureBlock compose(const HypothesisSettings& settings, const DialogView&) const override {
+        return {text::kLogit, {}, {}, hypothesisLines(settings.text)};
+    }
+};
+
+}  // namespace
+
+DialogBehaviour& logitBehaviour() { return soleInstance<LogitDialog>(); }
+DialogBehaviour& logitHypothesisBehaviour() { return soleInstance<HypothesisDialog>(); }
+
+}  // namespace kvs::stats

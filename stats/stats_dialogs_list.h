@@ -1,0 +1,14 @@
+// The behaviours of the statistics dialogs, for the family's rows.
+#pragma once
+
+#include "core/dialog_behaviour.h"
+
+namespace kvs::stats {
+
+DialogBehaviour& twoSampleTtestBehaviour();
+DialogBehaviour& pairedTtestBehaviour();
+DialogBehaviour& oneSampleTtestBehaviour();
+DialogBehaviour& logitBehaviour();
+DialogBehaviour& logitHypothesisBehaviour();
+
+}  // namespace kvs::stats

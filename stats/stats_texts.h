@@ -1,0 +1,51 @@
+// Texts and keywords of the statistics dialogs.
+#pragma once
+
+#include <string_view>
+
+namespace kvs::stats::text {
+
+inline constexpr std::string_view kEnterMean = "You must enter a value for mean.";
+
+// t-tests.
+inline constexpr std::string_view kTtest = "TTEST";
+inline constexpr std::string_view kTest = "TEST ";
+inline constexpr std::string_view kGroupedBy = " * ";
+inline constexpr std::string_view kBonferroni = " / BONF";
+inline constexpr std::string_view kAdjustSlash = " /";
+inline constexpr std::string_view kDunn = " DUNN";
+inline constexpr std::string_view kConfidenceSlash = "/ ";
+inline constexpr std::string_view kConfidence = " CONF=";
+inline constexpr std::string_view kDefaultConfidence = ".95";
+
+// Logit.
+inline constexpr std::string_view kLogit = "LOGIT";
+inline constexpr std::string_view kLogitFile = "LOGIT.KVD";
+inline constexpr std::string_view kModel = "MODEL ";
+inline constexpr std::string_view kEquals = " = ";
+inline constexpr std::string_view kConstant = "CONSTANT+";
+inline constexpr std::string_view kConditionalEnd = " ; ";
+inline constexpr std::string_view kEstimate = "ESTIMATE /";
+inline constexpr std::string_view kPredict = " PREDICT ";
+inline constexpr std::string_view kQml = " QML ";
+inline constexpr std::string_view kStart = " START=";
+inline constexpr std::string_view kConverge = " CONVERGE=";
+inline constexpr std::string_view kDefaultConverge = "1.0e-6";
+inline constexpr std::string_view kTolerance = " TOL=";
+inline constexpr std::string_view kDefaultTolerance = "1.0e-12";
+inline constexpr std::string_view kStepwiseStart = "START /";
+inline constexpr std::string_view kForward = " FORWARD";
+inline constexpr std::string_view kBackward = " BACKWARD";
+inline constexpr std::string_view kEnter = " ENTER=";
+inline constexpr std::string_view kRemove = " REMOVE=";
+inline constexpr std::string_view kDefaultProbability = "0.15";
+inline constexpr std::string_view kForce = " FORCE=";
+inline constexpr std::string_view kMaxStep = " MAXSTEP=";
+inline constexpr std::string_view kStepAuto = "STEP / AUTO";
+
+// Hypothesis lines.
+inline constexpr std::string_view kHypothesis = "HYPOTHESIS";
+inline constexpr std::string_view kConstrain = "CONSTRAIN ";
+inline constexpr std::string_view kTestLine = "TEST";
+
+}  // namespace kvs::stats::text
