@@ -17,6 +17,7 @@
 #include "core/join_names.h"
 #include "data/composers.h"
 #include "graph/graph_composers.h"
+#include "stats/stats_composers.h"
 #include "tools/scenario/line_checks.h"
 
 namespace {
@@ -98,7 +99,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 12)) {
+    switch (in.ConsumeIntegralInRange(0, 15)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -137,6 +138,30 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         break;
     }
     case 8: check(kvs::data::composeProgram(in.ConsumeRandomLengthString(12), in.ConsumeRandomLengthString(40000))); break;
+    case 13: {
+        kvs::stats::TtestSettings s;
+        s.bonferroni = in.ConsumeBool(), s.dunnSidak = in.ConsumeBool();
+        s.confidence = in.ConsumeRandomLengthString(40), s.mean = in.ConsumeRandomLengthString(40);
+        const std::uint16_t ids[] = {256, 257, 258};
+        check(kvs::stats::composeTtest(ids[in.ConsumeIntegralInRange(0, 2)], s, names(in), names(in)).body);
+        break;
+    }
+    case 14: {
+        kvs::stats::LogitSettings s;
+        s.constant = in.ConsumeBool(), s.constantEnabled = in.ConsumeBool(), s.predict = in.ConsumeBool();
+        s.quasiLikelihood = in.ConsumeBool(), s.optionsUsed = in.ConsumeBool();
+        kvs::stats::LogitOptions& o = s.options;
+        o.converge = in.ConsumeRandomLengthString(40), o.tolerance = in.ConsumeRandomLengthString(40);
+        o.estimation = in.ConsumeBool() ? IDC_LOGITOPT_STEPWISE : IDC_LOGITOPT_COMPLETE;
+        o.direction = in.ConsumeBool() ? IDC_LOGITOPT_BACKWARD : IDC_LOGITOPT_FORWARD;
+        o.stepping = in.ConsumeBool() ? IDC_LOGITOPT_INTERACT : IDC_LOGITOPT_AUTO;
+        o.enter = in.ConsumeRandomLengthString(40), o.remove = in.ConsumeRandomLengthString(40);
+        o.force = in.ConsumeRandomLengthString(40), o.maxStep = in.ConsumeRandomLengthString(40);
+        o.start = in.ConsumeRandomLengthString(40);
+        check(kvs::stats::composeLogit(s, names(in), names(in), names(in)).body);
+        break;
+    }
+    case 15: check(kvs::stats::hypothesisLines(in.ConsumeRandomLengthString(40000))); break;
     case 9: {
         kvs::graph::ScatterplotState s;
         s.x = names(in), s.y = names(in), s.z = names(in), s.group = names(in), s.w = names(in);
