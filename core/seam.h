@@ -70,6 +70,8 @@ public:
     virtual int listCount(int id) const = 0;
     virtual std::string listText(int id, int index) const = 0;
     virtual int listAdd(int id, std::string_view text, ListInsert how) = 0;
+    // Puts text at position index (LB_INSERTSTRING), sorted list or not.
+    virtual int listInsertAt(int id, int index, std::string_view text) = 0;
     virtual void listDelete(int id, int index) = 0;
     virtual void listClear(int id) = 0;
     virtual std::vector<int> listSelection(int id) const = 0;

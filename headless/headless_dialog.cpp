@@ -300,6 +300,15 @@ HeadlessDialog::ListAddResult HeadlessDialog::listAddAll(int id, std::size_t cou
     return result;
 }
 
+int HeadlessDialog::listInsertAt(int id, int index, std::string_view text) {
+    ControlState* c = reachKind(id, ControlKind::ListBox);
+    if (c == nullptr || index < 0 || static_cast<std::size_t>(index) > c->items.size()) return kListError;
+    if (c->items.size() >= listCapacity_) return kListNoSpace;
+    c->items.insert(c->items.begin() + index, ListEntry{cText(text), false});
+    if (c->chosen >= index) ++c->chosen;
+    return index;
+}
+
 void HeadlessDialog::listDelete(int id, int index) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || !validIndex(c->items, index)) return;

@@ -75,6 +75,7 @@ public:
     void setRedraw(int id, bool on) override;
     void listReserve(int id, std::size_t count) override;
     ListAddResult listAddAll(int id, std::size_t count, const TextAt& textAt, ListInsert how) override;
+    int listInsertAt(int id, int index, std::string_view text) override;
     void comboAdd(int id, std::string_view text) override;
     void comboClear(int id) override;
     int comboSelection(int id) const override;

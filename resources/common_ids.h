@@ -28,6 +28,10 @@
 #define IDC_DEPENDENT       240
 #define IDC_ADD_DEPENDENT   241
 #define IDC_REMOVE_DEPENDENT 242
+/* A one-variable list of the statistics dialogs and its buttons. */
+#define IDC_ADD_VARIABLE     243
+#define IDC_REMOVE_VARIABLE  244
+#define IDC_VARIABLE_LIST    245
 
 /* System commands the dialogs answer with help. */
 #define IDM_HELP_CONTENTS   801

@@ -19,7 +19,7 @@
 #define IDC_LOGIT_OPTIONS    50
 
 /* The Logit Options button's menu: its items. */
-#define IDM_LOGIT_CATEGORY   1217
+#define IDM_LOGIT_CATEGORY   1217  /* the categories sub-dialog */
 #define IDM_LOGIT_CHOICE     1218
 #define IDM_LOGIT_ESTIMATION 1215
 
@@ -37,6 +37,27 @@
 #define IDC_LOGITOPT_FORCE     41
 #define IDC_LOGITOPT_MAXSTEP   42
 #define IDC_LOGITOPT_START     43
+
+/* Logit: Deciles of Risk. */
+#define IDC_DC_VALUE         31
+#define IDC_DC_SMART         32
+
+/* Logit: Quantiles and Simulation: the variable list 245 and its buttons,
+ * the values list 33 with its field and buttons. */
+#define IDC_VALUES_LIST      33
+#define IDC_VALUE_FIELD      34
+#define IDC_ADD_VALUE        35
+#define IDC_REMOVE_VALUE     36
+
+/* The set editor (Logit: Discrete Choice): set names 31, the set's
+ * variables in list 10, the alternatives variable in list 245. */
+#define IDC_SET_NAME         31
+#define IDC_SET_NEW          32
+#define IDC_SET_CATEGORIES   34
+
+/* Logit: Categories: the categorical variables in list 10. */
+#define IDC_CATEGORY_EFFECT  31
+#define IDC_CATEGORY_DUMMY   32
 
 /* Hypothesis text (Logit: Hypothesis). */
 #define IDC_HYPOTHESIS_TEXT  31

@@ -7,6 +7,8 @@
 #include "core/option_dialog.h"
 #include "core/procedure_block.h"
 #include "stats/procedure_dialog.h"
+#include "stats/set_editor.h"
+#include "stats/variable_subdialog.h"
 #include "stats/stats_composers.h"
 #include "stats/stats_dialogs_list.h"
 #include "stats/stats_texts.h"
@@ -52,6 +54,27 @@ private:
     bool& used_;
 };
 
+// Logit: Categories: the categorical variables and their coding.
+class CategoriesDialog : public VariableSubDialog {
+public:
+    explicit CategoriesDialog(CategorySettings& record)
+        : VariableSubDialog(289, kCategoriesHelp, {{IDC_TARGET1, 256}}), record_(record) {}
+
+private:
+    static constexpr std::uint32_t kCategoriesHelp = 1217;
+    void show(DialogView& view) override {
+        showNames(view, IDC_TARGET1, record_.variables);
+        view.setChecked(IDC_CATEGORY_EFFECT, record_.coding != IDC_CATEGORY_DUMMY);
+        view.setChecked(IDC_CATEGORY_DUMMY, record_.coding == IDC_CATEGORY_DUMMY);
+    }
+    bool keep(DialogView& view) override {
+        record_.variables = listNames(view, IDC_TARGET1);
+        record_.coding = view.isChecked(IDC_CATEGORY_DUMMY) ? IDC_CATEGORY_DUMMY : IDC_CATEGORY_EFFECT;
+        return true;
+    }
+    CategorySettings& record_;
+};
+
 LogitSettings logitSettings;
 
 class LogitDialog : public ProcedureDialog<LogitSettings> {
@@ -75,17 +98,46 @@ public:
 private:
     static constexpr std::int32_t kListCapacity = 256;
 
-    void opened(LogitSettings& settings) override { settings.optionsUsed = false; }
+    void opened(LogitSettings& settings) override {
+        settings.optionsUsed = false;
+        settings.choiceUsed = false;
+        settings.categoriesUsed = false;
+    }
 
     void changed(DialogContext& context, const Notification& n) override {
         if (!n.clicked(IDC_LOGIT_OPTIONS)) return;
+        DialogView& view = context.view;
         PopupRequest request;
-        request.owner = context.view.handle();
+        request.owner = view.handle();
         request.menuName = "LogitOptionsPopupMenu";
         request.anchorControl = IDC_LOGIT_OPTIONS;
-        if (ui().popupMenu(request) != IDM_LOGIT_ESTIMATION) return;
-        LogitOptionsDialog options(working_.options, working_.optionsUsed);
-        ui().runModal(context.view.handle(), "LOGITOPTS", options);
+        switch (ui().popupMenu(request)) {
+        case IDM_LOGIT_CATEGORY: {
+            CategoriesDialog categories(working_.categories);
+            ui().runModal(view.handle(), "LogitCategories", categories);
+            if (categories.continued()) working_.categoriesUsed = true;
+            break;
+        }
+        case IDM_LOGIT_CHOICE: {
+            SetEditor sets(working_.choice, 289, IDM_LOGIT_CHOICE);
+            ui().runModal(view.handle(), "LogitChoice", sets);
+            if (!sets.continued()) break;
+            working_.choiceUsed = true;
+            showSetsInSource(view, IDC_SOURCE, working_.choice.sets);
+            break;
+        }
+        case IDM_LOGIT_ESTIMATION: {
+            LogitOptionsDialog options(working_.options, working_.optionsUsed);
+            ui().runModal(view.handle(), "LOGITOPTS", options);
+            break;
+        }
+        default: break;
+        }
+    }
+
+    bool accept(DialogContext& context, int button) override {
+        removeSetsFromSource(context.view, IDC_SOURCE);
+        return ProcedureDialog::accept(context, button);
     }
 
     ProcedureBlock compose(const LogitSettings& settings, const DialogView& view) const override {
@@ -135,6 +187,10 @@ ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, con
     if (!model.empty() && model.str().back() == '+') model.dropLast();
 
     Composition body;
+    if (s.choiceUsed) appendChoiceLines(body, s.choice);
+    if (s.categoriesUsed) {
+        if (const std::string line = categoryLine(s.categories); !line.empty()) body.add(line);
+    }
     body.add(model);
     CommandText estimate(text::kEstimate);
     if (s.predict) estimate.append(text::kPredict);
@@ -151,6 +207,27 @@ ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, con
         body.add(estimate);
     }
     return {text::kLogit, text::kLogitFile, {}, std::move(body)};
+}
+
+void appendChoiceLines(Composition& lines, const ChoiceSets& choice) {
+    if (!isEmptyOption(choice.alternatives)) {
+        lines.add(std::string(text::kAlternatives) + choice.alternatives);
+        if (!isEmptyOption(choice.categories)) lines.add(std::string(text::kCategoryCount) + choice.categories);
+    }
+    for (const NamedSet& set : choice.sets) {
+        CommandText line(text::kSet);
+        line.append(set.name).append(text::kSetEquals);
+        for (const std::string& variable : set.variables) line.append(variable).append(' ');
+        lines.add(line);
+    }
+}
+
+std::string categoryLine(const CategorySettings& c) {
+    if (c.variables.empty()) return {};
+    CommandText line(text::kCategory);
+    joinNames(c.variables, line, ' ');
+    line.append(c.coding == IDC_CATEGORY_DUMMY ? text::kDummy : text::kEffect);
+    return line.str();
 }
 
 Composition hypothesisLines(std::string_view typed) {

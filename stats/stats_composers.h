@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/join_names.h"
 #include "core/procedure_block.h"
@@ -36,6 +37,32 @@ struct LogitOptions {
     std::string start;  // " START=" when given
 };
 
+// A named set of variables (the discrete-choice sets, survival's
+// time-dependent covariates): its name, its variables, and a value kept
+// with it.
+struct NamedSet {
+    std::string name;
+    Names variables;
+    int value = 0;
+};
+
+// Logit: Discrete Choice, as Continue leaves it.
+struct ChoiceSets {
+    std::vector<NamedSet> sets;
+    std::string alternatives;  // the alternatives variable, or empty
+    std::string categories;    // the number of categories, or empty
+};
+// "ALT name", "NCAT=n" and a "SET name = a b " line a set.
+void appendChoiceLines(Composition& lines, const ChoiceSets& choice);
+
+// Logit: Categories, as Continue leaves it.
+struct CategorySettings {
+    Names variables;
+    int coding = IDC_CATEGORY_EFFECT;  // or IDC_CATEGORY_DUMMY
+};
+// "CATEGORY a b / EFFECT" (or "/ DUMMY"); empty without variables.
+std::string categoryLine(const CategorySettings& categories);
+
 // Logit: Estimate Model (289).
 struct LogitSettings {
     bool constant = true;
@@ -44,9 +71,27 @@ struct LogitSettings {
     bool quasiLikelihood = false;
     bool optionsUsed = false;  // the options sub-dialog was closed with OK in this run
     LogitOptions options;
+    bool choiceUsed = false;   // the discrete-choice sub-dialog was closed with Continue in this run
+    ChoiceSets choice;
+    bool categoriesUsed = false;
+    CategorySettings categories;
 };
 ProcedureBlock composeLogit(const LogitSettings& settings, const Names& dependents, const Names& independents,
                             const Names& conditionals);
+
+// Logit: Deciles of Risk (298).
+struct DecilesSettings {
+    bool smart = false;
+    std::string groups;
+};
+ProcedureBlock composeDeciles(const DecilesSettings& settings);
+
+// Logit: Quantiles (299) and Simulation (300): the values the user listed.
+struct ValueListSettings {
+    Names values;
+};
+ProcedureBlock composeQuantiles(const Names& variable, const ValueListSettings& settings);
+ProcedureBlock composeSimulation(const ValueListSettings& settings);
 
 // The lines of a hypothesis text (Logit: Hypothesis, 290): "HYPOTHESIS", a
 // "CONSTRAIN " line a line (a line after one ending in "," continues it),

@@ -10,5 +10,8 @@ DialogBehaviour& pairedTtestBehaviour();
 DialogBehaviour& oneSampleTtestBehaviour();
 DialogBehaviour& logitBehaviour();
 DialogBehaviour& logitHypothesisBehaviour();
+DialogBehaviour& logitDecilesBehaviour();
+DialogBehaviour& logitQuantilesBehaviour();
+DialogBehaviour& logitSimulationBehaviour();
 
 }  // namespace kvs::stats

@@ -43,6 +43,23 @@ inline constexpr std::string_view kForce = " FORCE=";
 inline constexpr std::string_view kMaxStep = " MAXSTEP=";
 inline constexpr std::string_view kStepAuto = "STEP / AUTO";
 
+// Discrete choice and categories.
+inline constexpr std::string_view kAlternatives = "ALT ";
+inline constexpr std::string_view kCategoryCount = "NCAT=";
+inline constexpr std::string_view kSet = "SET ";
+inline constexpr std::string_view kSetEquals = " = ";
+inline constexpr std::string_view kSetExists = "Set name already exists!";
+inline constexpr std::string_view kCategory = "CATEGORY ";
+inline constexpr std::string_view kEffect = " / EFFECT";
+inline constexpr std::string_view kDummy = " / DUMMY";
+
+// Deciles, quantiles, simulation.
+inline constexpr std::string_view kDeciles = "DC ";
+inline constexpr std::string_view kSmart = "/ SMART";
+inline constexpr std::string_view kQuantiles = "QNTL ";
+inline constexpr std::string_view kValuesAfter = " / ";
+inline constexpr std::string_view kSimulation = "SIMUL ";
+
 // Hypothesis lines.
 inline constexpr std::string_view kHypothesis = "HYPOTHESIS";
 inline constexpr std::string_view kConstrain = "CONSTRAIN ";

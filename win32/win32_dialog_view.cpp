@@ -178,6 +178,18 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
     return static_cast<int>(result);
 }
 
+int Win32DialogView::listInsertAt(int id, int index, std::string_view text) {
+    textsRead_.erase(id);
+    HWND list = ofKind(child(id), Kind::ListBox);
+    if (!list) return kListError;
+    const std::string item = cString(text);
+    if (std::size_t* longest = longestOf(list, id)) *longest = std::max(*longest, item.size());
+    ChangingControls changing;
+    const LRESULT result = send(list, LB_INSERTSTRING, static_cast<WPARAM>(index), textArgument(item));
+    if (result == LB_ERRSPACE) return kListNoSpace;
+    return result < 0 ? kListError : static_cast<int>(result);
+}
+
 void Win32DialogView::listDelete(int id, int index) {
     textsRead_.erase(id);
     HWND list = ofKind(child(id), Kind::ListBox);

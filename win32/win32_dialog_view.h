@@ -33,6 +33,7 @@ public:
     int listCount(int id) const override;
     std::string listText(int id, int index) const override;
     int listAdd(int id, std::string_view text, ListInsert how) override;
+    int listInsertAt(int id, int index, std::string_view text) override;
     void listDelete(int id, int index) override;
     void listClear(int id) override;
     std::vector<int> listSelection(int id) const override;

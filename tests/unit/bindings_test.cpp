@@ -37,6 +37,7 @@ public:
     int listCount(int) const override { return 0; }
     std::string listText(int, int) const override { return {}; }
     int listAdd(int, std::string_view, ListInsert) override { return 0; }
+    int listInsertAt(int, int, std::string_view) override { return 0; }
     void listDelete(int, int) override {}
     void listClear(int) override {}
     std::vector<int> listSelection(int) const override { return {}; }

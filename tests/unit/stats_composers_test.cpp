@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "stats/set_editor.h"
 #include "stats/stats_composers.h"
 #include "stats/stored_options.h"
 
@@ -112,6 +113,33 @@ TEST(StatsComposers, BlockLinesAsTheHostReceivesThem) {
               (std::vector<std::string>{"LOGIT", "SAVE 'D:\\WORK\\LOGIT.KVD'", "MODEL y = CONSTANT", "ESTIMATE"}));
     EXPECT_EQ(blockLines(block, true, ""), (std::vector<std::string>{"MODEL y = CONSTANT", "ESTIMATE"}));
     EXPECT_TRUE(blockLines(composeLogit(LogitSettings{}, {}, {}, {}), false, "").empty());
+}
+
+}  // namespace
+}  // namespace kvs::stats
+
+namespace kvs::stats {
+namespace {
+
+TEST(SetEditor, DefaultNamesSkipTakenOnesAndCountOncePerSet) {
+    std::vector<NamedSet> sets = {{"Set1", {}, 0}, {"Set3", {}, 0}};
+    const std::string first = SetEditor::defaultName(289, 0, sets);
+    EXPECT_EQ(first, "Set2");
+    sets.push_back({first, {}, 0});
+    EXPECT_EQ(SetEditor::defaultName(289, 1, sets), "Set4");
+    EXPECT_EQ(SetEditor::defaultName(292, 0, {}), "TDC1");
+    EXPECT_EQ(SetEditor::defaultName(289, 0, {{"set1", {}, 0}}), "Set1") << "case counts";
+}
+
+TEST(StatsComposers, ChoiceAndCategoryLines) {
+    Composition lines;
+    appendChoiceLines(lines, {{{"A", {"x", "y"}, 0}, {"B", {}, 0}}, "ALTV", ""});
+    EXPECT_EQ(lines.lines, (std::vector<std::string>{"ALT ALTV", "SET A = x y ", "SET B = "}));
+    Composition withoutAlternatives;
+    appendChoiceLines(withoutAlternatives, {{}, "", "3"});
+    EXPECT_TRUE(withoutAlternatives.lines.empty()) << "NCAT= goes only with an alternatives variable";
+    EXPECT_EQ(categoryLine({{"SEX", "RACE"}, IDC_CATEGORY_EFFECT}), "CATEGORY SEX RACE / EFFECT");
+    EXPECT_EQ(categoryLine({{}, IDC_CATEGORY_DUMMY}), "");
 }
 
 }  // namespace
