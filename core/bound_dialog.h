@@ -1,7 +1,9 @@
 // A variable dialog whose own controls are a record of remembered settings
 // tied by bindings, and whose OK composes lines from that record and the
 // names of its lists. A subclass gives the record, the bindings and the
-// composer; set-up, clicks, OK, Reset All and ReinitDialogs follow from them.
+// composer; set-up, clicks, OK and ReinitDialogs follow from them (Reset
+// All is the subclass's, where it has one). The statistics family's form is
+// stats/procedure_dialog.h, which works on a copy until an OK is pushed.
 #pragma once
 
 #include "core/bindings.h"

@@ -1,8 +1,9 @@
 // An option sub-dialog over a record of settings: it shows the record, works
 // on a copy while open, commits the copy on OK or Continue (once the
 // subclass's check passes) and leaves the record untouched on Cancel; its
-// Help button opens its topic. The graph and statistics option dialogs and
-// the host's option dialogs are made of this and a Bindings list.
+// Help button opens its topic. The save-as options and Logit's options are
+// made of this and a Bindings list; the graph family's option sub-dialogs
+// keep their records by option code (graph/option_subdialog.h).
 #pragma once
 
 #include <cstdint>
