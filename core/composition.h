@@ -37,6 +37,11 @@ struct Composition {
     }
 };
 
+// One line of a keyword and the names of a list separated by blanks, or the
+// refusal "You must select variables." when the list is empty: the line of
+// the simplest variable dialogs.
+Composition namesLine(std::string_view keyword, const std::vector<std::string>& names);
+
 // Shows the refusal as a stop message owned by owner, or pushes every line
 // onto the command queue. True when the composition was accepted.
 bool deliver(WindowRef owner, const Composition& composition);

@@ -122,12 +122,6 @@ public:
     }
 };
 
-Composition namesLine(std::string_view keyword, const Names& names) {
-    CommandText line(keyword);
-    if (joinNames(names, line, ' ') == 0) return Composition::refuse(kvs::text::kSelectVariables);
-    return Composition().add(line);
-}
-
 }  // namespace
 
 Composition composeListCases(const ListCasesSettings& s, const Names& names) {

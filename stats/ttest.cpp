@@ -42,10 +42,10 @@ private:
 
 ProcedureBlock composeTtest(std::uint16_t commandId, const TtestSettings& s, const Names& variables,
                             const Names& grouping) {
-    if (variables.empty()) return ProcedureBlock::refuse(text::kTtest, kvs::text::kSelectVariables);
+    const Composition named = namesLine(text::kTest, variables);
+    if (named.refused()) return {text::kTtest, {}, {}, named};
     if (commandId == 258 && isEmptyOption(s.mean)) return ProcedureBlock::refuse(text::kTtest, text::kEnterMean);
-    CommandText line(text::kTest);
-    joinNames(variables, line, ' ');
+    CommandText line(named.lines.front());
     if (commandId == 256 && !grouping.empty()) line.append(text::kGroupedBy).append(grouping.front());
     if (commandId == 258) appendOption(line, "=", s.mean);
     bool adjusted = false;
