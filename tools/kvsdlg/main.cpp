@@ -44,16 +44,12 @@ int usage() {
     return 2;
 }
 
-int writeFieldScenarios(const std::string& length, const std::string& folder) {
-    char* end = nullptr;
-    const unsigned long long count = std::strtoull(length.c_str(), &end, 10);
-    if (length.empty() || *end != '\0' || count == 0 || count > (16u << 20)) return usage();
-    kvs::headless::ResourceSet resources;
-    resources.load(kvs::headless::embeddedResources());
+// Writes FOLDER/PREFIX_NAME.scn for each generated scenario.
+template <typename Scenarios>
+int writeScenarios(const std::string& folder, const std::string& prefix, const Scenarios& scenarios) {
     int written = 0;
-    for (const kvs::headless::FieldScenario& scenario :
-         kvs::headless::everyFieldScenario(resources, static_cast<std::size_t>(count))) {
-        const std::string path = folder + "/fields_" + scenario.name + ".scn";
+    for (const auto& scenario : scenarios) {
+        const std::string path = folder + "/" + prefix + "_" + scenario.name + ".scn";
         std::ofstream file(path, std::ios::binary);
         file << scenario.source;
         if (!file) {
@@ -66,20 +62,17 @@ int writeFieldScenarios(const std::string& length, const std::string& folder) {
     return 0;
 }
 
+int writeFieldScenarios(const std::string& length, const std::string& folder) {
+    char* end = nullptr;
+    const unsigned long long count = std::strtoull(length.c_str(), &end, 10);
+    if (length.empty() || *end != '\0' || count == 0 || count > (16u << 20)) return usage();
+    kvs::headless::ResourceSet resources;
+    resources.load(kvs::headless::embeddedResources());
+    return writeScenarios(folder, "fields", kvs::headless::everyFieldScenario(resources, static_cast<std::size_t>(count)));
+}
+
 int writeBoundScenarios(const std::string& folder) {
-    int written = 0;
-    for (const kvs::headless::BoundScenario& scenario : kvs::headless::everyBoundScenario()) {
-        const std::string path = folder + "/bounds_" + scenario.name + ".scn";
-        std::ofstream file(path, std::ios::binary);
-        file << scenario.source;
-        if (!file) {
-            std::cerr << "kvsdlg: cannot write " << path << "\n";
-            return 1;
-        }
-        ++written;
-    }
-    std::cout << written << " scenarios written to " << folder << "\n";
-    return 0;
+    return writeScenarios(folder, "bounds", kvs::headless::everyBoundScenario());
 }
 
 std::string expectedPath(const std::string& scenario) {
