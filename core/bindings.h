@@ -1,16 +1,26 @@
 // Declarative ties between a dialog's controls and a record of remembered
 // settings. One list of bindings gives the dialog's set-up (show), what OK
 // reads back (read), what a click stores at once (clicked), which field a
-// choice enables, and the typing limits. A record's defaults are its member
-// initialisers, so ReinitDialogs resets it whole (DefaultsTable::record).
+// choice enables, the typing limits, and the numbers OK checks (validate).
+// A record's defaults are its member initialisers, so ReinitDialogs resets
+// it whole (DefaultsTable::record) and Reset All shows Record{}.
+//
+// Every family declares its controls so: the data and statistics dialogs
+// over typed records (member pointers, checked by the compiler), the graph
+// family over its store of values by control id (entry()), since its option
+// records are one generic store per graph type and option code.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <functional>
 #include <vector>
 
+#include "core/numeric_field.h"
 #include "core/seam.h"
 
 namespace kvs {
@@ -18,6 +28,15 @@ namespace kvs {
 // When a control's state reaches the record: at OK, or at each click (so it
 // is kept even when the dialog is then cancelled).
 enum class Commit { OnOk, OnClick };
+
+// How a control's value is kept in a store of texts by control id: a check
+// box or radio button as "1" or empty (RadioFirst: the group's first button,
+// chosen when nothing was), an edit's text, a text that must read as a
+// number, a drop-down list's position, a list's names one a line.
+enum class Kept { Check, RadioFirst, Text, Number, Combo, Names };
+
+// The message of a number field whose text is not a number.
+inline constexpr std::string_view kNotANumber = "Entry is not a valid number.";
 
 template <typename Record>
 class Bindings {
@@ -60,6 +79,85 @@ public:
         };
         return add(std::move(b));
     }
+    // An edit field whose text must read as a number when given (validate);
+    // the blanks around a typed number are not kept.
+    Bindings& number(int id, std::string Record::*value, std::size_t limit) {
+        text(id, value, limit);
+        Binding& b = bindings_.back();
+        b.read = [id, value, limit](const DialogView& view, Record& r) {
+            std::string text = view.text(id);
+            if (text.size() > limit) text.resize(limit);
+            const std::size_t first = text.find_first_not_of(' ');
+            r.*value = first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
+        };
+        b.valid = [value](const Record& r) { return givenNumber(r.*value); };
+        return *this;
+    }
+    // A list box and the names it holds.
+    Bindings& names(int id, std::vector<std::string> Record::*list) {
+        Binding b{{id}, Commit::OnOk, false};
+        b.show = [id, list](DialogView& view, const Record& r) {
+            view.listClear(id);
+            for (const std::string& name : r.*list) view.listAdd(id, name, ListInsert::Append);
+        };
+        b.read = [id, list](const DialogView& view, Record& r) { r.*list = view.listTexts(id); };
+        return add(std::move(b));
+    }
+    // A control kept in a record that is a store of texts by control id (a
+    // std::map<int, std::string>). A control the dialog lacks is not read.
+    Bindings& entry(int id, Kept kept) {
+        Binding b{{id}, Commit::OnOk, false};
+        b.show = [id, kept](DialogView& view, const Record& r) {
+            const auto found = r.find(id);
+            const std::string none;
+            const std::string& value = found == r.end() ? none : found->second;
+            switch (kept) {
+            case Kept::Check:
+            case Kept::RadioFirst: view.setChecked(id, value == "1"); break;
+            case Kept::Text:
+            case Kept::Number: view.setText(id, value); break;
+            case Kept::Combo: view.comboSelect(id, std::atoi(value.c_str())); break;
+            case Kept::Names:
+                view.listClear(id);
+                for (std::size_t at = 0; at < value.size();) {
+                    const std::size_t end = std::min(value.find('\n', at), value.size());
+                    view.listAdd(id, std::string_view(value).substr(at, end - at), ListInsert::Append);
+                    at = end + 1;
+                }
+                break;
+            }
+        };
+        b.read = [id, kept](const DialogView& view, Record& r) {
+            if (!view.has(id)) return;
+            std::string value;
+            switch (kept) {
+            case Kept::Check:
+            case Kept::RadioFirst:
+                if (view.isChecked(id)) value.assign(1, '1');
+                break;
+            case Kept::Text:
+            case Kept::Number: value = view.text(id); break;
+            case Kept::Combo: value = std::to_string(std::max(view.comboSelection(id), 0)); break;
+            case Kept::Names: {
+                const std::vector<std::string>& names = view.listTexts(id);
+                for (std::size_t i = 0; i < names.size(); ++i) {
+                    if (i) value += '\n';
+                    value += names[i];
+                }
+                break;
+            }
+            }
+            r[id] = std::move(value);
+        };
+        if (kept == Kept::Number) {
+            b.valid = [id](const Record& r) {
+                const auto found = r.find(id);
+                return found == r.end() || givenNumber(found->second);
+            };
+        }
+        return add(std::move(b));
+    }
+
     // A drop-down list and the position chosen in it.
     Bindings& combo(int id, int Record::*position) {
         Binding b{{id}, Commit::OnOk, false};
@@ -83,6 +181,14 @@ public:
     // The controls' state into the record, as OK takes it.
     void read(const DialogView& view, Record& record) const {
         for (const Binding& b : bindings_) b.read(view, record);
+    }
+
+    // Why the record may not be kept ("Entry is not a valid number."), or
+    // empty when every number field holds a number or nothing.
+    std::string_view validate(const Record& record) const {
+        for (const Binding& b : bindings_)
+            if (b.valid && !b.valid(record)) return kNotANumber;
+        return {};
     }
 
     // A click on control id: bindings that commit on click store it, and the
@@ -111,7 +217,13 @@ private:
         std::function<void(DialogView&, const Record&)> show = {};
         std::function<void(const DialogView&, Record&)> read = {};
         std::function<void(DialogView&, int, Record&)> click = {};
+        std::function<bool(const Record&)> valid = {};
     };
+
+    // Blanks are no value; anything else must read as a number.
+    static bool givenNumber(std::string_view text) {
+        return text.find_first_not_of(' ') == std::string_view::npos || parseNumber(text).has_value();
+    }
     struct Enabling {
         int field;
         int choice;

@@ -11,6 +11,7 @@
 #include "core/bindings.h"
 #include "core/dialog_behaviour.h"
 #include "core/help_requests.h"
+#include "core/messages.h"
 #include "resources/common_ids.h"
 
 namespace kvs {
@@ -32,6 +33,10 @@ public:
         const Notification n = classify(view, controlId, notifyCode);
         if (n.clicked(kIdOk) || n.clicked(IDC_CONTINUE)) {
             bindings_.read(view, working_);
+            if (const std::string_view refusal = bindings_.validate(working_); !refusal.empty()) {
+                showStop(view.handle(), refusal);
+                return;
+            }
             if (!validate(view, working_)) return;
             stored_ = working_;
             committed();

@@ -15,43 +15,11 @@ void fillCombos(DialogView& view, std::span<const ComboEntries> combos) {
 }
 
 void showValues(DialogView& view, std::span<const FormField> fields, const ControlValues& values) {
-    for (const FormField& field : fields) {
-        switch (field.store) {
-        case Store::Check:
-        case Store::RadioFirst: view.setChecked(field.id, isChecked(values, field.id)); break;
-        case Store::Text:
-        case Store::Number: view.setText(field.id, valueOf(values, field.id)); break;
-        case Store::Combo: view.comboSelect(field.id, positionOf(values, field.id)); break;
-        case Store::Names:
-            view.listClear(field.id);
-            for (const std::string& name : namesOf(valueOf(values, field.id)))
-                view.listAdd(field.id, name, ListInsert::Append);
-            break;
-        }
-    }
+    formBindings(fields).show(view, values);
 }
 
 void readValues(const DialogView& view, std::span<const FormField> fields, ControlValues& values) {
-    for (const FormField& field : fields) {
-        if (!view.has(field.id)) continue;
-        std::string value;
-        switch (field.store) {
-        case Store::Check:
-        case Store::RadioFirst:
-            if (view.isChecked(field.id)) value.assign(1, '1');
-            break;
-        case Store::Text:
-        case Store::Number: value = view.text(field.id); break;
-        case Store::Combo: value = std::to_string(std::max(view.comboSelection(field.id), 0)); break;
-        case Store::Names:
-            for (int i = 0, n = view.listCount(field.id); i < n; ++i) {
-                if (i) value += '\n';
-                value += view.listText(field.id, i);
-            }
-            break;
-        }
-        values[field.id] = std::move(value);
-    }
+    formBindings(fields).read(view, values);
 }
 
 std::vector<std::string> namesOf(std::string_view value) {

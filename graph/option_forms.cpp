@@ -449,12 +449,15 @@ ControlValues defaultValues(const OptionForm& form) {
     return values;
 }
 
+Bindings<ControlValues> formBindings(std::span<const FormField> fields) {
+    Bindings<ControlValues> bindings;
+    for (const FormField& field : fields) bindings.entry(field.id, field.store);
+    return bindings;
+}
+
 std::string validateValues(const OptionForm& form, const ControlValues& values) {
-    for (const FormField& field : form.fields) {
-        if (field.store != Store::Number) continue;
-        const std::string_view text = valueOf(values, field.id);
-        if (given(text) && !parseNumber(text)) return "Entry is not a valid number.";
-    }
+    if (const std::string_view refusal = formBindings(form.fields).validate(values); !refusal.empty())
+        return std::string(refusal);
     if (isChecked(values, IDC_SYMBOL_CHARACTER) && !given(valueOf(values, IDC_SYMBOL_TEXT)))
         return "You must enter a character to be displayed as the symbol.";
     return {};

@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/bindings.h"
 #include "core/command_text.h"
 #include "graph/axis_options.h"
 #include "graph/option_codes.h"
@@ -23,14 +24,8 @@ namespace kvs::graph {
 // names one a line. A missing value is an unchecked box or an empty field.
 using ControlValues = std::map<int, std::string>;
 
-enum class Store {
-    Check,       // check box, or a radio button other than its group's first
-    RadioFirst,  // the first radio button of a group, chosen when nothing was
-    Text,
-    Number,      // a text that must read as a number when given
-    Combo,       // drop-down list: the position, 0 when nothing was
-    Names,       // list box: the names it holds
-};
+// How each control is kept: the core's kinds of a store by control id.
+using Store = Kept;
 
 struct FormField {
     int id;
@@ -72,6 +67,10 @@ struct OptionForm {
 // The form of a sub-dialog template ("XAxisCreate", "LineStyle", ...); an
 // empty form for a name it does not know.
 const OptionForm& formOf(std::string_view templateName);
+
+// The controls of a form, declared as the core's bindings over the store of
+// values by control id: what shows, reads and validates a record.
+Bindings<ControlValues> formBindings(std::span<const FormField> fields);
 
 // A record's values as the controls start: every radio group at its first
 // button, everything else empty.

@@ -24,16 +24,16 @@ constexpr std::uint32_t kOptionsHelp = 1215;
 const Bindings<LogitOptions>& logitOptionBindings() {
     static const Bindings<LogitOptions> bindings = [] {
         Bindings<LogitOptions> b;
-        b.text(IDC_LOGITOPT_CONVERGE, &LogitOptions::converge, kValueLimit)
-            .text(IDC_LOGITOPT_TOLERANCE, &LogitOptions::tolerance, kValueLimit)
-            .text(IDC_LOGITOPT_START, &LogitOptions::start, kValueLimit)
+        b.number(IDC_LOGITOPT_CONVERGE, &LogitOptions::converge, kValueLimit)
+            .number(IDC_LOGITOPT_TOLERANCE, &LogitOptions::tolerance, kValueLimit)
+            .number(IDC_LOGITOPT_START, &LogitOptions::start, kValueLimit)
             .radio({IDC_LOGITOPT_COMPLETE, IDC_LOGITOPT_STEPWISE}, &LogitOptions::estimation)
             .radio({IDC_LOGITOPT_FORWARD, IDC_LOGITOPT_BACKWARD}, &LogitOptions::direction)
             .radio({IDC_LOGITOPT_AUTO, IDC_LOGITOPT_INTERACT}, &LogitOptions::stepping)
-            .text(IDC_LOGITOPT_ENTER, &LogitOptions::enter, kValueLimit)
-            .text(IDC_LOGITOPT_REMOVE, &LogitOptions::remove, kValueLimit)
-            .text(IDC_LOGITOPT_FORCE, &LogitOptions::force, kValueLimit)
-            .text(IDC_LOGITOPT_MAXSTEP, &LogitOptions::maxStep, kValueLimit);
+            .number(IDC_LOGITOPT_ENTER, &LogitOptions::enter, kValueLimit)
+            .number(IDC_LOGITOPT_REMOVE, &LogitOptions::remove, kValueLimit)
+            .number(IDC_LOGITOPT_FORCE, &LogitOptions::force, kValueLimit)
+            .number(IDC_LOGITOPT_MAXSTEP, &LogitOptions::maxStep, kValueLimit);
         // The stepwise settings count only with stepwise estimation.
         for (int field : {IDC_LOGITOPT_FORWARD, IDC_LOGITOPT_BACKWARD, IDC_LOGITOPT_AUTO, IDC_LOGITOPT_INTERACT,
                           IDC_LOGITOPT_ENTER, IDC_LOGITOPT_REMOVE, IDC_LOGITOPT_FORCE, IDC_LOGITOPT_MAXSTEP})

@@ -23,7 +23,7 @@ public:
     DecilesDialog()
         : ProcedureDialog(decilesSettings, Bindings<DecilesSettings>()
                                                .check(IDC_DC_SMART, &DecilesSettings::smart)
-                                               .text(IDC_DC_VALUE, &DecilesSettings::groups, kValueLimit)) {}
+                                               .number(IDC_DC_VALUE, &DecilesSettings::groups, kValueLimit)) {}
 
 private:
     ProcedureBlock compose(const DecilesSettings& settings, const DialogView&) const override {

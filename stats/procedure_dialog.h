@@ -9,6 +9,7 @@
 #include "core/bindings.h"
 #include "core/dialog_behaviour.h"
 #include "core/dialog_defaults.h"
+#include "core/messages.h"
 #include "core/procedure_block.h"
 #include "resources/common_ids.h"
 
@@ -32,6 +33,10 @@ public:
 
     bool accept(DialogContext& context, int) override {
         bindings_.read(context.view, working_);
+        if (const std::string_view refusal = bindings_.validate(working_); !refusal.empty()) {
+            showStop(context.view.handle(), refusal);
+            return false;
+        }
         if (!deliverBlock(context.view, compose(working_, context.view))) return false;
         stored_ = working_;
         return true;

@@ -17,8 +17,8 @@ Bindings<TtestSettings> ttestBindings(bool mean) {
     Bindings<TtestSettings> bindings;
     bindings.check(IDC_TTEST_BONFERRONI, &TtestSettings::bonferroni)
         .check(IDC_TTEST_DUNN, &TtestSettings::dunnSidak)
-        .text(IDC_TTEST_CONFIDENCE, &TtestSettings::confidence, kValueLimit);
-    if (mean) bindings.text(IDC_TTEST_MEAN, &TtestSettings::mean, kValueLimit);
+        .number(IDC_TTEST_CONFIDENCE, &TtestSettings::confidence, kValueLimit);
+    if (mean) bindings.number(IDC_TTEST_MEAN, &TtestSettings::mean, kValueLimit);
     return bindings;
 }
 

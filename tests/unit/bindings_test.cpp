@@ -151,5 +151,45 @@ TEST(Bindings, ARecordInTheDefaultsTableGoesBackToItsInitialisers) {
     EXPECT_EQ(record.field, "abc");
 }
 
+struct Numbers {
+    std::string value;
+};
+
+TEST(Bindings, NumberFieldsAreCheckedAndKeptWithoutBlanks) {
+    MemoryView view;
+    const kvs::Bindings<Numbers> bindings = kvs::Bindings<Numbers>().number(kField, &Numbers::value, 15);
+    Numbers record;
+    view.setText(kField, " 0.5 ");
+    bindings.read(view, record);
+    EXPECT_EQ(record.value, "0.5");
+    EXPECT_EQ(bindings.validate(record), "");
+    view.setText(kField, "   ");
+    bindings.read(view, record);
+    EXPECT_EQ(bindings.validate(record), "") << "blanks are no value";
+    record.value = "1,5";
+    EXPECT_EQ(bindings.validate(record), "Entry is not a valid number.");
+}
+
+TEST(Bindings, EntriesOfAStoreByControlIdReadWhatTheDialogHas) {
+    using Store = std::map<int, std::string>;
+    MemoryView view;
+    kvs::Bindings<Store> bindings;
+    bindings.entry(kBox, kvs::Kept::Check).entry(kField, kvs::Kept::Number).entry(kCombo, kvs::Kept::Combo)
+        .entry(kOther, kvs::Kept::Text);
+    view.setChecked(kBox, true);
+    view.setText(kField, "12");
+    view.comboSelect(kCombo, -1);
+    Store values;
+    bindings.read(view, values);
+    EXPECT_EQ(values, (Store{{kBox, "1"}, {kField, "12"}, {kCombo, "0"}})) << "a control the dialog lacks is not read";
+    values[kField] = "x";
+    EXPECT_EQ(bindings.validate(values), "Entry is not a valid number.");
+    MemoryView shown;
+    bindings.show(shown, {{kBox, "1"}, {kCombo, "3"}});
+    EXPECT_TRUE(shown.isChecked(kBox));
+    EXPECT_EQ(shown.comboSelection(kCombo), 3);
+    EXPECT_EQ(shown.text(kField), "");
+}
+
 }  // namespace
 }  // namespace kvs
