@@ -11,6 +11,14 @@ std::string addNames(const std::string& list, const std::string& prefix, int fir
     return statement + "\n";
 }
 
+// A bar graph of twelve-character names: 256 Z-variables, 256 Y-variables
+// (a list takes 256) and the X-variables WEIGHTCLS612 to WEIGHTCLS(lastX).
+std::string barOfLongNames(int lastX) {
+    return "manyvars WEIGHTCLS 870\nstart 103\n" + addNames("\"Z - variable(s):\"", "WEIGHTCLS", 100, 355) +
+           addNames("\"Y - variable(s):\"", "WEIGHTCLS", 356, 611) +
+           addNames("\"X - variable(s):\"", "WEIGHTCLS", 612, lastX);
+}
+
 }  // namespace
 
 std::vector<BoundScenario> everyBoundScenario() {
@@ -27,9 +35,7 @@ std::vector<BoundScenario> everyBoundScenario() {
     // Three lists of twelve-character names (a list takes 256) stay below
     // the list bound; of the two axis labels after them only the first fits.
     all.push_back({"bar_labels_past_the_buffer",
-                   "manyvars WEIGHTCLS 870\nstart 103\n" + addNames("\"Z - variable(s):\"", "WEIGHTCLS", 100, 355) +
-                       addNames("\"Y - variable(s):\"", "WEIGHTCLS", 356, 611) +
-                       addNames("\"X - variable(s):\"", "WEIGHTCLS", 612, 860) +
+                   barOfLongNames(860) +
                        "  click \"Axes\"\n  menu 2001\n  type \"Label:\" \"Weight class of the respondent in kilograms\"\n"
                        "  ok\n  click \"Axes\"\n  menu 2002\n"
                        "  type \"Label:\" \"Number of respondents in each weight class\"\n  ok\n  ok\n",
@@ -38,9 +44,7 @@ std::vector<BoundScenario> everyBoundScenario() {
     // Names past the bound end the command after the name that passed it
     // (the 250th X-variable): no slash, no grouping keyword, no axis minimum.
     all.push_back({"bar_names_past_the_bound",
-                   "manyvars WEIGHTCLS 870\nstart 103\n" + addNames("\"Z - variable(s):\"", "WEIGHTCLS", 100, 355) +
-                       addNames("\"Y - variable(s):\"", "WEIGHTCLS", 356, 611) +
-                       addNames("\"X - variable(s):\"", "WEIGHTCLS", 612, 867) +
+                   barOfLongNames(867) +
                        "  add \"Grouping variable(s):\" WEIGHTCLS868\n"
                        "  click \"Axes\"\n  menu 2001\n  type \"Minimum:\" \"-250\"\n  ok\n  ok\n",
                    "", {}, ""});
