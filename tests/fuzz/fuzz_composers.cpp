@@ -8,6 +8,7 @@
 #include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstdint>
+#include <cstdio>
 #include <initializer_list>
 #include <cstdlib>
 #include <string>
@@ -49,9 +50,10 @@ void check(const Composition& c, std::size_t capacity = kvs::CommandText::kCapac
 
 // Text that cannot itself make a line look malformed.
 bool plain(std::string_view text) { return text.find_first_of("*='\"") == std::string_view::npos; }
+// A list box never holds an empty name; a plain one has no separator in it.
 bool plain(const Names& names) {
     for (const std::string& name : names)
-        if (!plain(name) || name.find_first_of(" ,/") != std::string::npos) return false;
+        if (name.empty() || !plain(name) || name.find_first_of(" ,/") != std::string::npos) return false;
     return true;
 }
 
@@ -61,8 +63,16 @@ void checkGraph(const Composition& c, std::initializer_list<const Names*> lists 
     bool plainLists = plainTexts;
     for (const Names* list : lists) plainLists = plainLists && plain(*list);
     if (!plainLists) return;
+    // A finding says what it found, with the line's end.
+    const auto fail = [](std::string_view why, const std::string& line) {
+        std::fprintf(stderr, "malformed graph line (%.*s): ...%s\n", static_cast<int>(why.size()), why.data(),
+                     line.substr(line.size() > 80 ? line.size() - 80 : 0).c_str());
+        std::abort();
+    };
     for (const std::string& line : c.lines) {
-        if (!kvs::scenario::commandLineFault(line, kvs::CommandText::kGraphCapacity).empty()) std::abort();
+        if (const std::string fault = kvs::scenario::commandLineFault(line, kvs::CommandText::kGraphCapacity);
+            !fault.empty())
+            fail(fault, line);
         if (line.size() <= kvs::kJoinLimit) continue;
         // Past the bound the last word is a whole name or a keyword.
         const std::size_t cut = line.find_last_of(" *,=/");
@@ -70,7 +80,7 @@ void checkGraph(const Composition& c, std::initializer_list<const Names*> lists 
         bool whole = last.empty() || last.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string::npos;
         for (const Names* list : lists)
             for (const std::string& name : *list) whole = whole || name == last;
-        if (!whole) std::abort();
+        if (!whole) fail("does not end in a whole name", line);
     }
 }
 
