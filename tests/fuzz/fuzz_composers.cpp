@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "core/join_names.h"
+#include "core/numeric_field.h"
 #include "data/composers.h"
 #include "graph/graph_composers.h"
 #include "stats/stats_composers.h"
@@ -77,7 +78,9 @@ void checkGraph(const Composition& c, std::initializer_list<const Names*> lists 
         // Past the bound the last word is a whole name or a keyword.
         const std::size_t cut = line.find_last_of(" *,=/");
         const std::string last = line.substr(cut == std::string::npos ? 0 : cut + 1);
-        bool whole = last.empty() || last.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string::npos;
+        // (an option's value, a number, may follow a list that stayed within the bound)
+        bool whole = last.empty() || last.find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ") == std::string::npos ||
+                     kvs::parseNumber(last).has_value();
         for (const Names* list : lists)
             for (const std::string& name : *list) whole = whole || name == last;
         if (!whole) fail("does not end in a whole name", line);
