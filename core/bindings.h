@@ -20,6 +20,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/blank_text.h"
 #include "core/numeric_field.h"
 #include "core/seam.h"
 
@@ -87,10 +88,9 @@ public:
         b.read = [id, value, limit](const DialogView& view, Record& r) {
             std::string text = view.text(id);
             if (text.size() > limit) text.resize(limit);
-            const std::size_t first = text.find_first_not_of(' ');
-            r.*value = first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
+            r.*value = std::string(withoutBlanks(text));
         };
-        b.valid = [value](const Record& r) { return givenNumber(r.*value); };
+        b.valid = [value](const Record& r) { return isNumberOrBlank(r.*value); };
         return *this;
     }
     // A list box and the names it holds.
@@ -152,7 +152,7 @@ public:
         if (kept == Kept::Number) {
             b.valid = [id](const Record& r) {
                 const auto found = r.find(id);
-                return found == r.end() || givenNumber(found->second);
+                return found == r.end() || isNumberOrBlank(found->second);
             };
         }
         return add(std::move(b));
@@ -220,10 +220,6 @@ private:
         std::function<bool(const Record&)> valid = {};
     };
 
-    // Blanks are no value; anything else must read as a number.
-    static bool givenNumber(std::string_view text) {
-        return text.find_first_not_of(' ') == std::string_view::npos || parseNumber(text).has_value();
-    }
     struct Enabling {
         int field;
         int choice;

@@ -70,6 +70,10 @@ public:
     void dropLast() {
         if (!sealed_ && !text_.empty()) text_.pop_back();
     }
+    // Removes one trailing c, when the line ends in it.
+    void stripTrailing(char c) {
+        if (!text_.empty() && text_.back() == c) dropLast();
+    }
     std::size_t size() const { return text_.size(); }
     bool empty() const { return text_.empty(); }
     const std::string& str() const { return text_; }

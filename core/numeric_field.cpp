@@ -118,6 +118,10 @@ std::size_t readRoom(const NumericField& field) {
 
 }  // namespace
 
+bool isNumberOrBlank(std::string_view text) {
+    return text.find_first_not_of(' ') == std::string_view::npos || parseNumber(text).has_value();
+}
+
 int validateText(NumericField& field, std::string_view text) {
     const std::size_t room = readRoom(field);
     if (text.size() > room) text = text.substr(0, room);

@@ -70,6 +70,8 @@ struct ParsedNumber {
 
 // The number the text writes, or nothing when it is not one (see above).
 std::optional<ParsedNumber> parseNumber(std::string_view text);
+// Blanks (no value) or a number: what an option's number field may hold.
+bool isNumberOrBlank(std::string_view text);
 
 // Checks text as the field's content: -1 empty, 1 not a number, 2 not an
 // integer, 3 out of range, 0 valid (the value is stored). Only the first

@@ -196,11 +196,6 @@ Composition finishGraphLine(CommandText& line) {
     return Composition().add(line);
 }
 
-bool isBlankText(std::string_view text) { return text.find_first_not_of(' ') == std::string_view::npos; }
-
-void stripTrailing(CommandText& line, char c) {
-    if (!line.empty() && line.str().back() == c) line.dropLast();
-}
 
 std::string_view scatterplotMessage(int number) {
     return number >= 1 && number <= 5 ? kScatterplotMessages[static_cast<std::size_t>(number - 1)]

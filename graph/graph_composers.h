@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/blank_text.h"
 #include "core/command_text.h"
 #include "core/composition.h"
 #include "core/join_names.h"
@@ -133,10 +134,8 @@ void appendNames(CommandText& line, const Names& names, char separator);
 // can still take them; past the bound it seals the line instead. True when
 // the names are to follow.
 bool startList(CommandText& line, std::string_view keyword, const Names& names);
-// A text of nothing but blanks gives no value.
-bool isBlankText(std::string_view text);
 // Removes one trailing character c, when the line ends in it.
-void stripTrailing(CommandText& line, char c);
+inline void stripTrailing(CommandText& line, char c) { line.stripTrailing(c); }
 
 // The steps the builders share.
 // Appends each code's groups, in order.

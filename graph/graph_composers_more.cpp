@@ -1,6 +1,7 @@
 // The density-family builders and the builders with few keywords of their own.
 #include <array>
 
+#include "core/bindings.h"
 #include "core/numeric_field.h"
 #include "graph/graph_composers.h"
 
@@ -29,16 +30,8 @@ constexpr std::array<std::string_view, 13> kDistributions = {
     " NORMAL", " CHISQ=", " EXPO", " GAMMA=", " UNIFORM", " WEIBULL=", " T=", " F=", " BETA=", " LOGISTIC",
     " RANGE=", " POISSON=", " BINOMIAL="};
 
-constexpr std::string_view kNotANumber = "Entry is not a valid number.";
 constexpr std::string_view kNoParameter = "You must provide a value for the selected function.";
 
-// A number field's text without its surrounding blanks; empty when blank.
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-bool isNumberText(std::string_view text) { return text.empty() || parseNumber(text).has_value(); }
 
 void appendWord(CommandText& line, std::string_view word) {
     const CommandText::Piece piece(line);
@@ -95,14 +88,14 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
     switch (graphId) {
     case 129:  // pie
         if (s.x.empty()) return Composition::refuse("You must select a Category variable to produce a Pie chart.");
-        if (!isNumberText(trimmed(s.slices))) return Composition::refuse(kNotANumber);
+        if (!isNumberOrBlank(s.slices)) return Composition::refuse(kNotANumber);
         line.append("PIE ");
         appendSpaced(line, s.y, s.x);
         line.append('/');
         appendCommaGrouping(line, s.group, false);
         if (!isBlankText(s.slices)) {
             const CommandText::Piece piece(line);
-            line.append(" SLICE=").append(trimmed(s.slices));
+            line.append(" SLICE=").append(withoutBlanks(s.slices));
         }
         if (s.ring) line.append(" RING");
         if (s.threeD) line.append(" THREED");
@@ -123,9 +116,9 @@ Composition composeSimpleGraph(int graphId, const SimpleGraphState& s, const Opt
         if (s.x.empty()) return Composition::refuse("You must select an X-variable to produce a Probability Plot.");
         const std::string_view distribution = at(kDistributions, s.choice);
         const bool parameters = !distribution.empty() && distribution.back() == '=';
-        const std::string_view first = trimmed(s.parameter1), second = trimmed(s.parameter2);
+        const std::string_view first = withoutBlanks(s.parameter1), second = withoutBlanks(s.parameter2);
         if (parameters && first.empty()) return Composition::refuse(kNoParameter);
-        if (parameters && (!isNumberText(first) || !isNumberText(second))) return Composition::refuse(kNotANumber);
+        if (parameters && (!isNumberOrBlank(first) || !isNumberOrBlank(second))) return Composition::refuse(kNotANumber);
         line.append("PPLOT ");
         appendSpaced(line, s.y, s.x);
         line.append('/');

@@ -332,12 +332,6 @@ const NamedForm kForms[] = {
 
 bool given(std::string_view text) { return text.find_first_not_of(' ') != std::string_view::npos; }
 
-// A value as written: the blanks around a typed number are not part of it.
-std::string_view withoutBlanksAround(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 // A list's first name, or the field's text.
 std::string_view firstLine(std::string_view value) { return value.substr(0, value.find('\n')); }
@@ -357,7 +351,7 @@ void appendRule(CommandText& line, const KeywordRule& r, const ControlValues& v)
         if (isChecked(v, r.ids[0])) line.append(' ').append(r.keyword);
         return;
     case Rule::Value:
-        if (given(value)) line.append(' ').append(r.keyword).append(withoutBlanksAround(value));
+        if (given(value)) line.append(' ').append(r.keyword).append(withoutBlanks(value));
         return;
     case Rule::Quoted:
         if (!given(value)) return;
@@ -397,7 +391,7 @@ void appendRule(CommandText& line, const KeywordRule& r, const ControlValues& v)
             }
             if (!given(part)) continue;
             if (!joined.empty()) joined += ',';
-            joined += withoutBlanksAround(part);
+            joined += withoutBlanks(part);
         }
         if (!joined.empty()) line.append(' ').append(r.keyword).append(joined);
         return;

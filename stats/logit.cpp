@@ -2,6 +2,7 @@
 // sub-dialog, and Logit: Hypothesis (290).
 #include <string>
 
+#include "core/blank_text.h"
 #include "core/descriptor.h"
 #include "core/messages.h"
 #include "core/option_dialog.h"
@@ -18,22 +19,21 @@ namespace kvs::stats {
 
 namespace {
 
-constexpr std::size_t kValueLimit = 15;  // a stored option of 16 characters with its NUL
 constexpr std::uint32_t kOptionsHelp = 1215;
 
 const Bindings<LogitOptions>& logitOptionBindings() {
     static const Bindings<LogitOptions> bindings = [] {
         Bindings<LogitOptions> b;
-        b.number(IDC_LOGITOPT_CONVERGE, &LogitOptions::converge, kValueLimit)
-            .number(IDC_LOGITOPT_TOLERANCE, &LogitOptions::tolerance, kValueLimit)
-            .number(IDC_LOGITOPT_START, &LogitOptions::start, kValueLimit)
+        b.number(IDC_LOGITOPT_CONVERGE, &LogitOptions::converge, kStoredValueLimit)
+            .number(IDC_LOGITOPT_TOLERANCE, &LogitOptions::tolerance, kStoredValueLimit)
+            .number(IDC_LOGITOPT_START, &LogitOptions::start, kStoredValueLimit)
             .radio({IDC_LOGITOPT_COMPLETE, IDC_LOGITOPT_STEPWISE}, &LogitOptions::estimation)
             .radio({IDC_LOGITOPT_FORWARD, IDC_LOGITOPT_BACKWARD}, &LogitOptions::direction)
             .radio({IDC_LOGITOPT_AUTO, IDC_LOGITOPT_INTERACT}, &LogitOptions::stepping)
-            .number(IDC_LOGITOPT_ENTER, &LogitOptions::enter, kValueLimit)
-            .number(IDC_LOGITOPT_REMOVE, &LogitOptions::remove, kValueLimit)
-            .number(IDC_LOGITOPT_FORCE, &LogitOptions::force, kValueLimit)
-            .number(IDC_LOGITOPT_MAXSTEP, &LogitOptions::maxStep, kValueLimit);
+            .number(IDC_LOGITOPT_ENTER, &LogitOptions::enter, kStoredValueLimit)
+            .number(IDC_LOGITOPT_REMOVE, &LogitOptions::remove, kStoredValueLimit)
+            .number(IDC_LOGITOPT_FORCE, &LogitOptions::force, kStoredValueLimit)
+            .number(IDC_LOGITOPT_MAXSTEP, &LogitOptions::maxStep, kStoredValueLimit);
         // The stepwise settings count only with stepwise estimation.
         for (int field : {IDC_LOGITOPT_FORWARD, IDC_LOGITOPT_BACKWARD, IDC_LOGITOPT_AUTO, IDC_LOGITOPT_INTERACT,
                           IDC_LOGITOPT_ENTER, IDC_LOGITOPT_REMOVE, IDC_LOGITOPT_FORCE, IDC_LOGITOPT_MAXSTEP})
@@ -184,7 +184,7 @@ ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, con
         model.append(text::kConditionalEnd);
     }
     joinNames(independents, model, '+');
-    if (!model.empty() && model.str().back() == '+') model.dropLast();
+    model.stripTrailing('+');
 
     Composition body;
     if (s.choiceUsed) appendChoiceLines(body, s.choice);
@@ -200,9 +200,9 @@ ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, con
         appendOptionLines(body, estimate, s.options);
     } else {
         // "ESTIMATE /" with nothing after it loses its slash and reads "ESTIMATE".
-        if (!estimate.empty() && estimate.str().back() == '/') {
+        if (estimate.str().ends_with(" /")) {
             estimate.dropLast();
-            if (estimate.str().back() == ' ') estimate.dropLast();
+            estimate.dropLast();
         }
         body.add(estimate);
     }
@@ -210,9 +210,9 @@ ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, con
 }
 
 void appendChoiceLines(Composition& lines, const ChoiceSets& choice) {
-    if (!isEmptyOption(choice.alternatives)) {
+    if (!isBlankText(choice.alternatives)) {
         lines.add(std::string(text::kAlternatives) + choice.alternatives);
-        if (!isEmptyOption(choice.categories)) lines.add(std::string(text::kCategoryCount) + choice.categories);
+        if (!isBlankText(choice.categories)) lines.add(std::string(text::kCategoryCount) + choice.categories);
     }
     for (const NamedSet& set : choice.sets) {
         CommandText line(text::kSet);
@@ -232,7 +232,7 @@ std::string categoryLine(const CategorySettings& c) {
 
 Composition hypothesisLines(std::string_view typed) {
     Composition lines;
-    if (isEmptyOption(typed)) return lines;
+    if (isBlankText(typed)) return lines;
     lines.add(text::kHypothesis);
     bool continued = false;
     std::string_view rest = typed;
@@ -271,7 +271,7 @@ public:
 
     // An empty text is forgotten and the dialog stays open, without a word.
     bool accept(DialogContext& context, int button) override {
-        if (isEmptyOption(context.view.text(IDC_HYPOTHESIS_TEXT))) {
+        if (isBlankText(context.view.text(IDC_HYPOTHESIS_TEXT))) {
             stored_ = HypothesisSettings{};
             return false;
         }

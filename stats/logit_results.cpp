@@ -2,6 +2,7 @@
 // Simulation (300), each one line after the LOGIT procedure line.
 #include <string>
 
+#include "core/blank_text.h"
 #include "core/descriptor.h"
 #include "core/messages.h"
 #include "stats/procedure_dialog.h"
@@ -14,8 +15,6 @@ namespace kvs::stats {
 
 namespace {
 
-constexpr std::size_t kValueLimit = 15;
-
 DecilesSettings decilesSettings;
 
 class DecilesDialog : public ProcedureDialog<DecilesSettings> {
@@ -23,7 +22,7 @@ public:
     DecilesDialog()
         : ProcedureDialog(decilesSettings, Bindings<DecilesSettings>()
                                                .check(IDC_DC_SMART, &DecilesSettings::smart)
-                                               .number(IDC_DC_VALUE, &DecilesSettings::groups, kValueLimit)) {}
+                                               .number(IDC_DC_VALUE, &DecilesSettings::groups, kStoredValueLimit)) {}
 
 private:
     ProcedureBlock compose(const DecilesSettings& settings, const DialogView&) const override {
@@ -63,10 +62,9 @@ private:
         DialogView& view = context.view;
         if (n.clicked(IDC_ADD_VALUE)) {
             const std::string typed = view.text(IDC_VALUE_FIELD);
-            const std::size_t first = typed.find_first_not_of(' ');
-            if (first == std::string::npos) return;
-            const std::string value = typed.substr(first, typed.find_last_not_of(' ') - first + 1);
-            view.listAdd(IDC_VALUES_LIST, value.substr(0, kValueLimit), ListInsert::Append);
+            const std::string_view value = withoutBlanks(typed);
+            if (value.empty()) return;
+            view.listAdd(IDC_VALUES_LIST, value.substr(0, kStoredValueLimit), ListInsert::Append);
             view.setText(IDC_VALUE_FIELD, "");
         } else if (n.clicked(IDC_REMOVE_VALUE)) {
             const std::vector<int> chosen = view.listSelection(IDC_VALUES_LIST);

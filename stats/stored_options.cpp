@@ -1,11 +1,11 @@
 #include "stats/stored_options.h"
 
+#include "core/blank_text.h"
+
 namespace kvs::stats {
 
-bool isEmptyOption(std::string_view value) { return value.find_first_not_of(' ') == std::string_view::npos; }
-
 bool appendOption(CommandText& line, std::string_view keyword, std::string_view value, bool quote) {
-    if (isEmptyOption(value)) return false;
+    if (isBlankText(value)) return false;
     const std::size_t before = line.size();
     {
         const CommandText::Piece piece(line);

@@ -10,7 +10,8 @@
 
 namespace kvs::stats {
 
-bool isEmptyOption(std::string_view value);
+// A stored option holds 16 characters with its NUL.
+inline constexpr std::size_t kStoredValueLimit = 15;
 
 // Appends keyword and value (one piece); false, nothing appended, for an
 // empty value.

@@ -1,5 +1,6 @@
 // The t-tests (256 two-sample, 257 paired, 258 one-sample): one TEST line,
 // its adjustments and confidence, after the TTEST procedure line.
+#include "core/blank_text.h"
 #include "core/messages.h"
 #include "stats/procedure_dialog.h"
 #include "stats/stats_composers.h"
@@ -11,14 +12,12 @@ namespace kvs::stats {
 
 namespace {
 
-constexpr std::size_t kValueLimit = 15;  // a stored option of 16 characters with its NUL
-
 Bindings<TtestSettings> ttestBindings(bool mean) {
     Bindings<TtestSettings> bindings;
     bindings.check(IDC_TTEST_BONFERRONI, &TtestSettings::bonferroni)
         .check(IDC_TTEST_DUNN, &TtestSettings::dunnSidak)
-        .number(IDC_TTEST_CONFIDENCE, &TtestSettings::confidence, kValueLimit);
-    if (mean) bindings.number(IDC_TTEST_MEAN, &TtestSettings::mean, kValueLimit);
+        .number(IDC_TTEST_CONFIDENCE, &TtestSettings::confidence, kStoredValueLimit);
+    if (mean) bindings.number(IDC_TTEST_MEAN, &TtestSettings::mean, kStoredValueLimit);
     return bindings;
 }
 
@@ -44,7 +43,7 @@ ProcedureBlock composeTtest(std::uint16_t commandId, const TtestSettings& s, con
                             const Names& grouping) {
     const Composition named = namesLine(text::kTest, variables);
     if (named.refused()) return {text::kTtest, {}, {}, named};
-    if (commandId == 258 && isEmptyOption(s.mean)) return ProcedureBlock::refuse(text::kTtest, text::kEnterMean);
+    if (commandId == 258 && isBlankText(s.mean)) return ProcedureBlock::refuse(text::kTtest, text::kEnterMean);
     CommandText line(named.lines.front());
     if (commandId == 256 && !grouping.empty()) line.append(text::kGroupedBy).append(grouping.front());
     if (commandId == 258) appendOption(line, "=", s.mean);
@@ -58,13 +57,13 @@ ProcedureBlock composeTtest(std::uint16_t commandId, const TtestSettings& s, con
         line.append(text::kDunn);
         adjusted = true;
     }
-    if (!isEmptyOption(s.confidence) && s.confidence != text::kDefaultConfidence) {
+    if (!isBlankText(s.confidence) && s.confidence != text::kDefaultConfidence) {
         // Without an adjustment the slash runs on: "TEST X * G/  CONF=.99".
         const CommandText::Piece piece(line);
         if (!adjusted) line.append(text::kConfidenceSlash);
         appendOption(line, text::kConfidence, s.confidence);
     }
-    if (!line.empty() && line.str().back() == '/') line.dropLast();
+    line.stripTrailing('/');
     return {text::kTtest, {}, {}, Composition().add(line)};
 }
 
