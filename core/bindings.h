@@ -191,6 +191,14 @@ public:
         return {};
     }
 
+    // The number fields, to be checked as the user leaves them too.
+    std::vector<int> numberIds() const {
+        std::vector<int> ids;
+        for (const Binding& b : bindings_)
+            if (b.valid) ids.push_back(b.ids.front());
+        return ids;
+    }
+
     // A click on control id: bindings that commit on click store it, and the
     // fields it enables follow. True when a binding knew the control.
     bool clicked(DialogView& view, int id, Record& record) const {

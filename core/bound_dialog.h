@@ -10,6 +10,7 @@
 #include "core/composition.h"
 #include "core/dialog_behaviour.h"
 #include "core/dialog_defaults.h"
+#include "core/leave_checked_fields.h"
 
 namespace kvs {
 
@@ -18,6 +19,7 @@ class BoundDialog : public DialogBehaviour {
 public:
     int init(DialogContext& context) override {
         bindings_.show(context.view, record_);
+        numberFields_.attach(context.view, bindings_.numberIds());
         return 0;
     }
 
@@ -49,6 +51,7 @@ protected:
 
     Record& record_;
     Bindings<Record> bindings_;
+    LeaveCheckedFields numberFields_;
 };
 
 }  // namespace kvs

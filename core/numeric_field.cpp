@@ -5,6 +5,9 @@
 #include <climits>
 #include <cmath>
 
+#include "core/blank_text.h"
+#include "resources/common_ids.h"
+
 namespace kvs {
 
 namespace {
@@ -250,9 +253,14 @@ int confirmField(NumericField& field, DialogView& view) {
 
 int leaveField(NumericField& field, DialogView& view) {
     if (fieldMessageUp()) return kFieldValid;
+    if (field.blankAllowed && isBlankText(view.text(field.controlId))) return kFieldValid;
     const int code = validateField(field, view);
     if (code == kFieldValid && changedSinceFocus(view.text(field.controlId))) notifyChange(field);
     return code;
+}
+
+bool leavingIsChecked(int gainingId) {
+    return gainingId != kIdOk && gainingId != kIdCancel && gainingId != IDC_CONTINUE;
 }
 
 int stepField(NumericField& field, DialogView& view, int direction) {

@@ -59,6 +59,9 @@ struct NumericField {
     WindowRef edit = 0;              // the edit control's window
     std::int32_t notify = 0;
     NumericNotify callback = nullptr;
+    // Nothing but blanks is no value rather than an error when the field is
+    // left: an option the user leaves unset.
+    bool blankAllowed = false;
     // The edit control's own window procedure, kept while it is subclassed.
     std::uintptr_t previousProcedure = 0;
 };
@@ -119,9 +122,15 @@ void refreshField(NumericField& field, DialogView& view);
 int confirmField(NumericField& field, DialogView& view);
 
 // The field lost the focus: validates (unless a message is up, then 0) and
-// on success notifies a changed text. Errors are not reported here: the
-// caller defers the report until the focus has settled.
+// on success notifies a changed text. A field that allows blanks passes
+// when it holds nothing else. Errors are not reported here: the caller
+// defers the report until the focus has settled.
 int leaveField(NumericField& field, DialogView& view);
+
+// Whether leaving a field for control gainingId is checked at all: not for
+// the buttons that end the dialog (OK and Continue check every field
+// themselves, Cancel gives up).
+bool leavingIsChecked(int gainingId);
 
 // One click of the up/down control: validates, steps within the range,
 // writes the value back and notifies. On an error reports it and keeps the

@@ -11,6 +11,7 @@
 #include "core/bindings.h"
 #include "core/dialog_behaviour.h"
 #include "core/help_requests.h"
+#include "core/leave_checked_fields.h"
 #include "core/messages.h"
 #include "resources/common_ids.h"
 
@@ -26,6 +27,7 @@ public:
         view.centre();
         working_ = stored_;
         bindings_.show(view, working_);
+        numberFields_.attach(view, bindings_.numberIds());
         return 0;
     }
 
@@ -62,6 +64,7 @@ protected:
     const Bindings<Record>& bindings_;
     std::uint32_t helpTopic_;
     Record working_;
+    LeaveCheckedFields numberFields_;
 };
 
 }  // namespace kvs

@@ -22,6 +22,8 @@ void readValues(const DialogView& view, std::span<const FormField> fields, Contr
     formBindings(fields).read(view, values);
 }
 
+std::vector<int> numberIdsOf(std::span<const FormField> fields) { return formBindings(fields).numberIds(); }
+
 std::vector<std::string> namesOf(std::string_view value) {
     std::vector<std::string> names;
     while (!value.empty()) {

@@ -15,6 +15,8 @@ namespace kvs::graph {
 void fillCombos(DialogView& view, std::span<const ComboEntries> combos);
 void showValues(DialogView& view, std::span<const FormField> fields, const ControlValues& values);
 void readValues(const DialogView& view, std::span<const FormField> fields, ControlValues& values);
+// The fields that take a number.
+std::vector<int> numberIdsOf(std::span<const FormField> fields);
 
 // The names of a values entry kept for a list, one a line.
 std::vector<std::string> namesOf(std::string_view value);

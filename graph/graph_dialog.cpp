@@ -9,6 +9,7 @@
 #include "core/dialog_defaults.h"
 #include "core/generic_dialog.h"
 #include "core/join_names.h"
+#include "core/leave_checked_fields.h"
 #include "core/variable_list.h"
 #include "graph/control_values.h"
 #include "graph/graph_specs.h"
@@ -49,6 +50,7 @@ public:
         working_ = remembered_.empty() ? defaultValues({spec_.fields, {}, {}}) : remembered_;
         transposed_ = rememberedTranspose_;
         showValues(view, spec_.fields, working_);
+        numberFields_.attach(view, numberIdsOf(spec_.fields));
         showWVariables(view);
         update(view);
         return 0;
@@ -219,6 +221,7 @@ private:
     const GraphSpec& spec_;
     ControlValues working_;
     ControlValues remembered_;
+    LeaveCheckedFields numberFields_;
     bool transposed_ = false;
     bool rememberedTranspose_ = false;
     std::array<SelectionArray, 4> hiLo_{};

@@ -8,6 +8,7 @@
 
 #include "core/dialog_behaviour.h"
 #include "core/help_requests.h"
+#include "core/leave_checked_fields.h"
 #include "core/library_state.h"
 #include "core/variable_list.h"
 #include "graph/colour_picker.h"
@@ -78,6 +79,7 @@ public:
             fillVariableList(view, IDC_SOURCE, listInsertRule(), GetNumVars(), false, 0, catalogue);
         }
         showValues(view, form_.fields, values_);
+        numberFields_.attach(view, numberIdsOf(form_.fields));
         update(view);
         return 0;
     }
@@ -198,6 +200,7 @@ private:
     SubDialog sub_;
     const OptionForm& form_;
     ControlValues values_;
+    LeaveCheckedFields numberFields_;
 };
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "headless/headless_backend.h"
 
 #include <cstdlib>
+#include <utility>
 
 #include "core/command_queue.h"
 #include "core/global_memory.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
+#include "core/numeric_field.h"
 #include "families/library.h"
 #include "core/dispatch_table.h"
 #include "include/kvs_dlg.h"
@@ -172,15 +174,19 @@ void HeadlessBackend::selectItems(int listId, const std::vector<int>& indices) {
     DialogWindow* window = dialog();
     if (!window) return;
     HeadlessDialog& d = *window->dialog;
+    moveFocus(*window, listId);
     const int count = d.listCount(listId);
     for (int i = 0; i < count; ++i) d.listSelect(listId, i, false);
     for (int index : indices) d.listSelect(listId, index, true);
     window->handler->onCommand(d, listId, kListSelChange);
 }
 
+// A press that moves the focus out of a field whose number fails is
+// cancelled: the button is released away from itself, so no click follows.
 void HeadlessBackend::click(int id) {
     DialogWindow* window = dialog();
     if (!window) return;
+    if (moveFocus(*window, id) && window->dialog->isButton(id)) return;
     window->dialog->click(id);
     window->handler->onCommand(*window->dialog, id, kButtonClicked);
 }
@@ -198,7 +204,7 @@ void HeadlessBackend::typeText(int id, const std::string& text) {
     HeadlessDialog& d = *window->dialog;
     const bool edit = d.isEdit(id);
     if (edit && d.focus() != id && d.isEnabled(id)) {
-        d.setFocus(id);
+        moveFocus(*window, id);
         window->handler->onCommand(d, id, kEditSetFocus);
     }
     d.setText(id, text);
@@ -211,11 +217,104 @@ void HeadlessBackend::chooseEntry(int id, int index) {
     if (!window) return;
     HeadlessDialog& d = *window->dialog;
     if (d.isComboBox(id)) {
+        moveFocus(*window, id);
         d.comboSelect(id, index);
         window->handler->onCommand(d, id, kComboSelChange);
     } else {
         selectItems(id, {index});
     }
+}
+
+namespace {
+
+NumericField* numericFieldAt(const DialogWindow& window, int id) {
+    for (NumericField* field : window.numericFields)
+        if (field->controlId == id) return field;
+    return nullptr;
+}
+
+void selectAllText(HeadlessDialog& d, int id) {
+    if (d.isEdit(id)) d.setEditSelection(id, 0, -1);
+}
+
+}  // namespace
+
+bool HeadlessBackend::moveFocus(DialogWindow& window, int target) {
+    HeadlessDialog& d = *window.dialog;
+    const int left = d.focus();
+    if (left == target || !d.isEnabled(target)) return false;
+    d.setFocus(target);
+    if (numericFieldAt(window, target)) rememberFocusText(d.text(target));
+    NumericField* field = numericFieldAt(window, left);
+    if (!field || !leavingIsChecked(target)) return false;
+    const int code = leaveField(*field, d);
+    if (code == kFieldValid) return false;
+    selectAllText(d, left);
+    pending_ = {&d, left, code};
+    return true;
+}
+
+// Tab moves the focus to the next control, in template order, that is a
+// visible, enabled tab stop; an edit field it reaches has its text selected.
+void HeadlessBackend::pressTab() {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    HeadlessDialog& d = *window->dialog;
+    const std::vector<ControlState>& controls = d.controls();
+    const std::size_t count = controls.size();
+    std::size_t from = count - 1;
+    for (std::size_t i = 0; i < count; ++i)
+        if (controls[i].def.id == d.focus() && d.focus() != 0) from = i;
+    for (std::size_t step = 1; step <= count; ++step) {
+        const ControlState& c = controls[(from + step) % count];
+        if (!c.def.tabStop() || !c.def.visible() || !c.enabled) continue;
+        const int id = c.def.id;
+        moveFocus(*window, id);
+        selectAllText(d, id);
+        if (d.isEdit(id)) window->handler->onCommand(d, id, kEditSetFocus);
+        return;
+    }
+}
+
+// Enter: a number field that reports its changes checks itself; otherwise
+// the focused push button or else the dialog's default button (OK when the
+// template names none) is pressed, and the focus stays where it is.
+void HeadlessBackend::pressEnter() {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    HeadlessDialog& d = *window->dialog;
+    if (NumericField* field = numericFieldAt(*window, d.focus()); field && field->notify) {
+        if (confirmField(*field, d) > kFieldValid) selectAllText(d, field->controlId);
+        return;
+    }
+    int pressed = kIdOk;
+    const ControlState* focused = d.control(d.focus());
+    if (focused && focused->def.kind == ControlKind::Button && focused->def.isPushButton()) {
+        pressed = focused->def.id;
+    } else {
+        for (const ControlState& c : d.controls()) {
+            if (c.def.kind != ControlKind::Button || !c.def.isDefault()) continue;
+            if (!c.enabled) return;
+            pressed = c.def.id;
+            break;
+        }
+    }
+    window->handler->onCommand(d, pressed, kButtonClicked);
+}
+
+// The report of a field left with no number: shown once the statement that
+// moved the focus is done; the field then takes the focus back with its text
+// selected (the control it went to is not checked on the way).
+void HeadlessBackend::settle() {
+    if (!leftFieldFailed()) return;
+    const PendingReport report = std::exchange(pending_, PendingReport{});
+    reportFieldError(report.code);
+    DialogWindow* window = dialog();
+    if (!window || window->dialog.get() != report.dialog) return;
+    HeadlessDialog& d = *window->dialog;
+    d.setFocus(report.fieldId);
+    rememberFocusText(d.text(report.fieldId));
+    selectAllText(d, report.fieldId);
 }
 
 // Closing from the system menu reaches the dialog as WM_CLOSE, as the

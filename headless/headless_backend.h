@@ -49,11 +49,28 @@ public:
     bool answerFont(const std::optional<scenario::FontAnswer>& font) override;
     void dismissTop() override { ui_.dismissTop(); }
     std::optional<long> userWord() override;
+    void pressTab() override;
+    void pressEnter() override;
+    void settle() override;
 
 private:
     DialogWindow* dialog();
+    // The focus moves to control target as a user's click, typing or Tab
+    // moves it. A number field left with a text that is no number keeps its
+    // report in pending_ until the statement is done, as a real field's
+    // report waits in the message queue for the focus change to settle.
+    // True when this move left such a field.
+    bool moveFocus(DialogWindow& window, int target);
+    bool leftFieldFailed() const { return pending_.code != kFieldValid; }
+
+    struct PendingReport {
+        const HeadlessDialog* dialog = nullptr;
+        int fieldId = 0;
+        int code = kFieldValid;
+    };
 
     HeadlessUi& ui_;
+    PendingReport pending_;
 };
 
 // Runs scenarios, each from a freshly loaded library, and returns their

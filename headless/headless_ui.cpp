@@ -100,7 +100,9 @@ int HeadlessUi::runModalTitled(WindowRef, std::string_view templateName, std::st
                                DialogHandler& handler) {
     const DialogTemplate* found = resources_.dialog(templateName);
     if (!found) return -1;
-    DialogWindow window{std::make_unique<HeadlessDialog>(*found), &handler};
+    DialogWindow window;
+    window.dialog = std::make_unique<HeadlessDialog>(*found);
+    window.handler = &handler;
     window.dialog->setCaption(caption);
     watchControls(*window.dialog);
     transcript_(scenario::dialogLine(window.dialog->caption()));
@@ -139,6 +141,19 @@ DialogWindow* HeadlessUi::modelessOf(const DialogView& view) {
     for (const auto& window : modeless_)
         if (window->dialog.get() == &view) return window.get();
     return nullptr;
+}
+
+DialogWindow* HeadlessUi::windowOf(const DialogView& view) {
+    for (const Window& window : stack_)
+        if (window.dialog && window.dialog->dialog.get() == &view) return window.dialog;
+    return modelessOf(view);
+}
+
+void HeadlessUi::attachNumericField(DialogView& view, NumericField& field, unsigned) {
+    DialogWindow* window = windowOf(view);
+    if (!window) return;
+    field.dialog = view.handle();
+    window->numericFields.push_back(&field);
 }
 
 void HeadlessUi::unstack(const DialogWindow* window) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "core/numeric_field.h"
 #include "core/seam.h"
 #include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
@@ -30,6 +31,8 @@ struct DialogWindow {
     // A modeless dialog's user word: the progress bar position drawn last,
     // -1 right after creation.
     std::intptr_t userWord = -1;
+    // Its number fields checked as the user leaves them.
+    std::vector<NumericField*> numericFields;
 };
 
 struct MessageWindow {
@@ -124,6 +127,7 @@ public:
     void closeModeless(DialogView& view) override;
     bool pumpMessages(DialogView&) override { return false; }
     std::intptr_t userRequest(DialogView& view, int code, std::intptr_t value) override;
+    void attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) override;
     // Closes every modeless dialog still open, as the user would.
     void closeAllModeless();
 
@@ -154,6 +158,7 @@ private:
     std::vector<std::unique_ptr<DialogWindow>> modeless_;
 
     DialogWindow* modelessOf(const DialogView& view);
+    DialogWindow* windowOf(const DialogView& view);
     void unstack(const DialogWindow* window);
 };
 

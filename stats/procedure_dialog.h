@@ -9,6 +9,7 @@
 #include "core/bindings.h"
 #include "core/dialog_behaviour.h"
 #include "core/dialog_defaults.h"
+#include "core/leave_checked_fields.h"
 #include "core/messages.h"
 #include "core/procedure_block.h"
 #include "resources/common_ids.h"
@@ -22,6 +23,7 @@ public:
         working_ = stored_;
         opened(working_);
         bindings_.show(context.view, working_);
+        numberFields_.attach(context.view, bindings_.numberIds());
         shown(context.view);
         return 0;
     }
@@ -66,6 +68,7 @@ protected:
     Record& stored_;
     Bindings<Record> bindings_;
     Record working_{};
+    LeaveCheckedFields numberFields_;
 };
 
 }  // namespace kvs::stats

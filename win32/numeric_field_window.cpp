@@ -27,6 +27,10 @@ constexpr HWND kOwnerWindow = nullptr;
 
 int liveFields = 0;
 HHOOK deferredHook = nullptr;
+// Set while a field that reported its error takes the focus back: the
+// control the focus leaves then is not checked, so two fields never trade
+// reports.
+bool returningFocus = false;
 
 NumericField* fieldOf(HWND edit) { return static_cast<NumericField*>(GetPropA(edit, kFieldProperty)); }
 
@@ -55,6 +59,14 @@ bool isButton(HWND window) {
 
 HWND dialogOf(const NumericField& field) { return reinterpret_cast<HWND>(field.dialog); }
 
+// The control of dialog that holds window (a combo box for its edit), or
+// null when window is not in the dialog.
+HWND controlHolding(HWND dialog, HWND window) {
+    if (!window || !IsChild(dialog, window)) return nullptr;
+    while (GetParent(window) != dialog) window = GetParent(window);
+    return window;
+}
+
 // Enter or Tab with the notify flag set; the key goes no further.
 void confirmKey(HWND edit, NumericField& field, WPARAM key) {
     Win32DialogView view(dialogOf(field));
@@ -69,7 +81,7 @@ void confirmKey(HWND edit, NumericField& field, WPARAM key) {
 }
 
 void focusLost(HWND edit, NumericField& field, HWND gaining) {
-    if (fieldMessageUp()) return;
+    if (fieldMessageUp() || returningFocus) return;
     Win32DialogView view(dialogOf(field));
     const int code = leaveField(field, view);
     const HWND dialog = dialogOf(field);
@@ -78,8 +90,11 @@ void focusLost(HWND edit, NumericField& field, HWND gaining) {
             selectAll(edit);
         return;
     }
-    // Leaving for Cancel is giving up: nothing to report.
-    if (isDialogButton(gaining, dialog, IDCANCEL)) return;
+    // Leaving the dialog (a message box, the dialog closing) is not leaving
+    // the field; the buttons that end the dialog check or discard it
+    // themselves.
+    const HWND control = controlHolding(dialog, gaining);
+    if (!control || !leavingIsChecked(GetDlgCtrlID(control))) return;
     selectAll(edit);
     if (isButton(gaining)) {
         const LPARAM outside = MAKELPARAM(static_cast<WORD>(kOutside), static_cast<WORD>(kOutside));
@@ -92,7 +107,9 @@ void focusLost(HWND edit, NumericField& field, HWND gaining) {
 void showDeferred(HWND edit, WPARAM code) {
     reportFieldError(static_cast<int>(static_cast<INT_PTR>(code)));
     if (!IsWindow(edit)) return;
+    returningFocus = true;
     SetFocus(edit);
+    returningFocus = false;
     selectAll(edit);
 }
 

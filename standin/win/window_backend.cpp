@@ -100,6 +100,7 @@ void WindowBackend::selectItems(int listId, const std::vector<int>& indices) {
     const HWND window = dialog();
     const HWND list = item(listId);
     if (!list) return;
+    if (GetFocus() != list) SetFocus(list);
     if (isMultiSelectList(list)) {
         SendMessageA(list, LB_SETSEL, FALSE, -1);
         // LB_SETSEL also moves the caret to its item and scrolls it into
@@ -123,14 +124,54 @@ void WindowBackend::selectItems(int listId, const std::vector<int>& indices) {
     notify(window, listId, LBN_SELCHANGE);
 }
 
+namespace {
+
+bool isEditWindow(HWND window) {
+    char name[16] = {};
+    return window && GetClassNameA(window, name, static_cast<int>(sizeof name)) > 0 && lstrcmpiA(name, "Edit") == 0;
+}
+
+// The buttons that end a dialog: leaving a field for them is not checked.
+bool endsDialog(int id) { return id == IDOK || id == IDCANCEL || id == 1001; }
+
+}  // namespace
+
 // The engine has already moved on to the next statement, so a click that
 // opens a modal window may be sent: the statements after it run inside.
+// Leaving an edit field for another button is clicked as the mouse does it:
+// the press is sent and the release posted, so that a field that refuses to
+// be left can cancel the press (its own posted release comes first).
 void WindowBackend::click(int id) {
     const HWND window = dialog();
     const HWND control = item(id);
     if (!control) return;
-    if (controlKind(control) == ControlKind::Button) SendMessageA(control, BM_CLICK, 0, 0);
-    else notify(window, id, BN_CLICKED);
+    if (controlKind(control) != ControlKind::Button) {
+        notify(window, id, BN_CLICKED);
+        return;
+    }
+    const HWND focus = GetFocus();
+    if (focus != control && isEditWindow(focus) && IsChild(window, focus) && !endsDialog(id)) {
+        RECT r{};
+        GetClientRect(control, &r);
+        const LPARAM inside = MAKELPARAM(static_cast<WORD>(r.right / 2), static_cast<WORD>(r.bottom / 2));
+        SendMessageA(control, WM_LBUTTONDOWN, MK_LBUTTON, inside);
+        PostMessageA(control, WM_LBUTTONUP, 0, inside);
+        return;
+    }
+    SendMessageA(control, BM_CLICK, 0, 0);
+}
+
+// Tab and Enter go through the dialog's message loop, as typed keys do.
+void WindowBackend::pressTab() { pressKey(VK_TAB); }
+void WindowBackend::pressEnter() { pressKey(VK_RETURN); }
+
+void WindowBackend::pressKey(WPARAM key) {
+    const HWND window = dialog();
+    if (!window) return;
+    const HWND focus = GetFocus();
+    const HWND target = focus && IsChild(window, focus) ? focus : window;
+    PostMessageA(target, WM_KEYDOWN, key, 1);
+    PostMessageA(target, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001u));
 }
 
 void WindowBackend::doubleClick(int listId, int index) {
@@ -164,6 +205,7 @@ void WindowBackend::chooseEntry(int id, int index) {
     const HWND control = item(id);
     if (!control) return;
     if (controlKind(control) == ControlKind::ComboBox) {
+        if (GetFocus() != control && !IsChild(control, GetFocus())) SetFocus(control);
         SendMessageA(control, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
         notify(window, id, CBN_SELCHANGE);
     } else {

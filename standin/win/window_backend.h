@@ -49,8 +49,11 @@ public:
     void pickMenuItem(int id) override;
     void dismissTop() override;
     std::optional<long> userWord() override;
+    void pressTab() override;
+    void pressEnter() override;
 
 private:
+    void pressKey(WPARAM key);
     HWND dialog();                     // the top window when it is a dialog
     HWND item(int id);                 // a control of that dialog
     void notify(HWND dialog, int id, int code);

@@ -174,5 +174,27 @@ TEST_F(FieldOnView, LeavingChecksWithoutReporting) {
     EXPECT_EQ(notes, (std::vector<std::pair<int, double>>{{32, 6.0}}));
 }
 
+TEST_F(FieldOnView, AnOptionalFieldMayBeLeftBlank) {
+    dialog->setText(32, "   ");
+    EXPECT_EQ(leaveField(field, *dialog), kFieldNotNumber) << "blanks are no number";
+    dialog->setText(32, "");
+    EXPECT_EQ(leaveField(field, *dialog), kFieldEmpty);
+    field.blankAllowed = true;
+    EXPECT_EQ(leaveField(field, *dialog), kFieldValid);
+    dialog->setText(32, "   ");
+    EXPECT_EQ(leaveField(field, *dialog), kFieldValid);
+    dialog->setText(32, " x ");
+    EXPECT_EQ(leaveField(field, *dialog), kFieldNotNumber);
+    EXPECT_TRUE(notes.empty());
+}
+
+TEST(LeavingAField, IsNotCheckedForTheButtonsThatEndTheDialog) {
+    EXPECT_FALSE(leavingIsChecked(1));     // OK
+    EXPECT_FALSE(leavingIsChecked(2));     // Cancel
+    EXPECT_FALSE(leavingIsChecked(1001));  // Continue
+    EXPECT_TRUE(leavingIsChecked(12));
+    EXPECT_TRUE(leavingIsChecked(0));
+}
+
 }  // namespace
 }  // namespace kvs

@@ -117,6 +117,7 @@ bool Engine::step() {
     case WindowKind::Menu: actOnMenu(statement); break;
     case WindowKind::None: fail(statement, "no window is open for '" + statement.keyword + "'"); break;
     }
+    backend_.settle();
     return true;
 }
 
@@ -314,6 +315,10 @@ void Engine::actOnDialog(const Statement& s) {
         }
         if (entry < 0) fail(s, "no such entry in control " + std::to_string(id));
         else backend_.chooseEntry(id, entry);
+    } else if (k == "tab") {
+        backend_.pressTab();
+    } else if (k == "enter") {
+        backend_.pressEnter();
     } else if (k == "caption") {
         emit_("caption " + quote(backend_.topText()));
     } else if (k == "show") {

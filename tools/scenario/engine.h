@@ -131,6 +131,12 @@ public:
     // the progress window keeps the bar position it drew last; nothing when
     // no dialog is up.
     virtual std::optional<long> userWord() { return std::nullopt; }
+    // The Tab and Enter keys, pressed in the topmost dialog.
+    virtual void pressTab() = 0;
+    virtual void pressEnter() = 0;
+    // After each statement: what a real window leaves in its message queue
+    // for later (a number field's report) happens now.
+    virtual void settle() {}
 };
 
 class Engine {
