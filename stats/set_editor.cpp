@@ -42,6 +42,12 @@ std::string SetEditor::defaultName(std::uint16_t commandId, int counter, const s
     return name;
 }
 
+void openRoom(std::vector<NamedSet>& sets) { sets.reserve(sets.size() + kSetRoomStep); }
+
+void roomForNewSet(std::vector<NamedSet>& sets) {
+    if (sets.size() == sets.capacity()) sets.reserve(sets.capacity() + kSetRoomStep);
+}
+
 void SetEditor::showSets(DialogView& view) {
     view.comboClear(IDC_SET_NAME);
     for (const NamedSet& set : working_.sets) view.comboAdd(IDC_SET_NAME, set.name);
@@ -52,6 +58,7 @@ void SetEditor::showSets(DialogView& view) {
 }
 
 void SetEditor::show(DialogView& view) {
+    openRoom(working_.sets);
     counter_ = 0;
     current_ = working_.sets.empty() ? -1 : 0;
     view.limitText(IDC_SET_NAME, kTypedNameLimit);
@@ -82,6 +89,7 @@ void SetEditor::newSet(DialogView& view) {
     NamedSet set;
     set.name = defaultName(commandId_, counter_, working_.sets);
     ++counter_;
+    roomForNewSet(working_.sets);
     working_.sets.push_back(std::move(set));
     current_ = static_cast<int>(working_.sets.size()) - 1;
     showSets(view);

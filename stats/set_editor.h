@@ -4,6 +4,7 @@
 // keeps the copy.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -36,6 +37,12 @@ private:
     int counter_ = 0;
     std::string renamed_;  // a name typed into the combo box, not yet stored
 };
+
+// The working copy's room: 16 sets more than it holds as the editor opens,
+// and 16 more whenever a new set would not fit.
+inline constexpr std::size_t kSetRoomStep = 16;
+void openRoom(std::vector<NamedSet>& sets);
+void roomForNewSet(std::vector<NamedSet>& sets);
 
 // Shows the sets at the top of a source list as "*" entries: adds the sets
 // not shown yet after the leading "*" entries, then takes away, from the

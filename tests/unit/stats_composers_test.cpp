@@ -131,6 +131,20 @@ TEST(SetEditor, DefaultNamesSkipTakenOnesAndCountOncePerSet) {
     EXPECT_EQ(SetEditor::defaultName(289, 0, {{"set1", {}, 0}}), "Set1") << "case counts";
 }
 
+TEST(SetEditor, WorkingCopyGrowsBySixteen) {
+    std::vector<NamedSet> sets(3);
+    openRoom(sets);
+    EXPECT_EQ(sets.capacity(), 19u);
+    for (int i = 0; i < 16; ++i) {
+        roomForNewSet(sets);
+        sets.emplace_back();
+    }
+    EXPECT_EQ(sets.capacity(), 19u) << "room is made only when a set would not fit";
+    roomForNewSet(sets);
+    EXPECT_EQ(sets.capacity(), 35u);
+    EXPECT_EQ(sets.size(), 19u);
+}
+
 TEST(StatsComposers, ChoiceAndCategoryLines) {
     Composition lines;
     appendChoiceLines(lines, {{{"A", {"x", "y"}, 0}, {"B", {}, 0}}, "ALTV", ""});
