@@ -7,6 +7,7 @@
 #include "core/messages.h"
 #include "core/option_dialog.h"
 #include "core/procedure_block.h"
+#include "stats/model_line.h"
 #include "stats/procedure_dialog.h"
 #include "stats/set_editor.h"
 #include "stats/variable_subdialog.h"
@@ -175,16 +176,7 @@ void appendOptionLines(Composition& block, CommandText& estimate, const LogitOpt
 ProcedureBlock composeLogit(const LogitSettings& s, const Names& dependents, const Names& independents,
                             const Names& conditionals) {
     if (dependents.empty()) return ProcedureBlock::refuse(text::kLogit, kvs::text::kSelectVariables);
-    CommandText model(text::kModel);
-    joinNames(dependents, model, ' ');
-    model.append(text::kEquals);
-    if (s.constant && s.constantEnabled) model.append(text::kConstant);
-    if (!conditionals.empty()) {
-        joinNames(conditionals, model, '+');
-        model.append(text::kConditionalEnd);
-    }
-    joinNames(independents, model, '+');
-    model.stripTrailing('+');
+    const CommandText model = modelLine(dependents, s.constant && s.constantEnabled, independents, conditionals);
 
     Composition body;
     if (s.choiceUsed) appendChoiceLines(body, s.choice);

@@ -13,5 +13,9 @@ DialogBehaviour& logitHypothesisBehaviour();
 DialogBehaviour& logitDecilesBehaviour();
 DialogBehaviour& logitQuantilesBehaviour();
 DialogBehaviour& logitSimulationBehaviour();
+DialogBehaviour& anovaBehaviour();
+DialogBehaviour& glmBehaviour();
+DialogBehaviour& regressionBehaviour();
+DialogBehaviour& discriminantBehaviour();
 
 }  // namespace kvs::stats

@@ -65,4 +65,46 @@ inline constexpr std::string_view kHypothesis = "HYPOTHESIS";
 inline constexpr std::string_view kConstrain = "CONSTRAIN ";
 inline constexpr std::string_view kTestLine = "TEST";
 
+// Linear models: ANOVA, GLM, Regression, Discriminant Analysis.
+inline constexpr std::string_view kAnova = "ANOVA";
+inline constexpr std::string_view kAnovaFile = "ANOVA.KVD";
+inline constexpr std::string_view kGlm = "GLM";
+inline constexpr std::string_view kGlmFile = "GLM.KVD";
+inline constexpr std::string_view kRegress = "REGRESS";
+inline constexpr std::string_view kRegressFile = "REGRESS.KVD";
+inline constexpr std::string_view kDiscrim = "DISCRIM";
+inline constexpr std::string_view kDiscrimFile = "DISCRIM.KVD";
+inline constexpr std::string_view kSelectFactors = "You must select category/factor variables.";
+inline constexpr std::string_view kSelectIndependents = "You must select independent variable(s).";
+inline constexpr std::string_view kEnterCases = "You must enter the number of cases.";
+inline constexpr std::string_view kDependentsChanged =
+    "Your dependent variables have changed.  The Repeated Measures which you set up may not apply to these new "
+    "dependent variables.";
+inline constexpr std::string_view kCases = " /N=";
+
+// Estimation options of the linear models.
+inline constexpr std::string_view kEstimateComplete = "ESTIMATE / ";
+inline constexpr std::string_view kToleranceLong = " TOLERANCE=";
+inline constexpr std::string_view kDefaultModelTolerance = "1.0e-11";
+inline constexpr std::string_view kDefaultDiscrimTolerance = ".001";
+inline constexpr std::string_view kMix = " MIX";
+inline constexpr std::string_view kMixture = " MIXTURE";
+inline constexpr std::string_view kFenter = " FENTER=";
+inline constexpr std::string_view kFremove = " FREMOVE=";
+inline constexpr std::string_view kDefaultModelProbability = ".15";
+inline constexpr std::string_view kDefaultFenter = "4";
+inline constexpr std::string_view kDefaultFremove = "3.9";
+inline constexpr std::string_view kDefaultForce = "0";
+inline constexpr std::string_view kStepAutoTight = "STEP /AUTO";
+
+// Repeated measures and the discriminant print line.
+inline constexpr std::string_view kRepeat = "/ REPEAT ";
+inline constexpr std::string_view kRepeatNames = "NAMES=";
+inline constexpr std::string_view kPrintNone = "PRINT NONE /";
+inline constexpr std::string_view kDiscriminantPrint[] = {
+    " FMATRIX", " FSTATS", " EIGEN",  " CMEANS", " SUM",   " MEANS", " WILKS",
+    " CFUNC",   " TRACES", " CDFUNC", " SCDFUNC", " CLASS", " JCLASS", " WCOV",
+    " WCORR",   " TCOV",   " TCORR",  " GCOV",   " GCORR", " MAHAL", " CSCORE",
+};
+
 }  // namespace kvs::stats::text

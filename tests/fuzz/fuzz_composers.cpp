@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <initializer_list>
+#include <optional>
 #include <cstdlib>
 #include <string>
 #include <string_view>
@@ -19,6 +20,7 @@
 #include "core/numeric_field.h"
 #include "data/composers.h"
 #include "graph/graph_composers.h"
+#include "stats/model_composers.h"
 #include "stats/stats_composers.h"
 #include "tools/scenario/line_checks.h"
 
@@ -112,7 +114,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 15)) {
+    switch (in.ConsumeIntegralInRange(0, 16)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -175,6 +177,28 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         break;
     }
     case 15: check(kvs::stats::hypothesisLines(in.ConsumeRandomLengthString(40000))); break;
+    case 16: {
+        // The linear models (218, 219, 221, 222) with every option text.
+        const auto text = [&in] { return std::optional<std::string>(in.ConsumeRandomLengthString(40)); };
+        kvs::stats::EstimationOptions o;
+        o.stepwise = in.ConsumeBool(), o.forward = in.ConsumeBool(), o.automatic = in.ConsumeBool();
+        o.fStatistic = in.ConsumeBool(), o.mixture = in.ConsumeBool();
+        o.tolerance = text(), o.enter = text(), o.remove = text(), o.fenter = text(), o.fremove = text();
+        o.force = text(), o.maxStep = text();
+        kvs::stats::ModelSettings s;
+        s.constant = in.ConsumeBool(), s.matrix = in.ConsumeBool(), s.cases = in.ConsumeRandomLengthString(40);
+        kvs::stats::RepeatedMeasures measures;
+        measures.perform = in.ConsumeBool();
+        for (auto& factor : measures.factors) factor = {text(), text(), text()};
+        kvs::stats::DiscriminantStatistics statistics;
+        for (bool& box : statistics.print) box = in.ConsumeBool();
+        const kvs::Names dependents = names(in), independents = names(in);
+        measures.dependents = in.ConsumeBool() ? dependents : names(in);
+        check(kvs::stats::composeGlm(in.ConsumeBool() ? 218 : 219, s, o, measures, dependents, independents).body);
+        check(kvs::stats::composeRegression(s, o, dependents, independents).body);
+        check(kvs::stats::composeDiscriminant(s, o, statistics, dependents, independents).body);
+        break;
+    }
     case 9: {
         kvs::graph::ScatterplotState s;
         s.x = names(in), s.y = names(in), s.z = names(in), s.group = names(in), s.w = names(in);
