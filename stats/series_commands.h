@@ -10,3 +10,8 @@ namespace kvs {
 // owner: the host window whose title names the module switch.
 void runSeriesCommand(std::uint16_t commandId, WindowRef owner);
 }
+
+namespace kvs::stats {
+// Whether a series dialog has pushed its line since the library was loaded.
+bool seriesCommandIssued();
+}

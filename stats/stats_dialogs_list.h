@@ -17,5 +17,28 @@ DialogBehaviour& anovaBehaviour();
 DialogBehaviour& glmBehaviour();
 DialogBehaviour& regressionBehaviour();
 DialogBehaviour& discriminantBehaviour();
+DialogBehaviour& arimaBehaviour();
+DialogBehaviour& expoBehaviour();
+DialogBehaviour& fourierBehaviour();
+DialogBehaviour& lowessBehaviour();
+DialogBehaviour& seasonalBehaviour();
+DialogBehaviour& smoothBehaviour();
+DialogBehaviour& tplotBehaviour();
+DialogBehaviour& acfBehaviour();
+DialogBehaviour& pacfBehaviour();
+DialogBehaviour& ccfBehaviour();
+DialogBehaviour& timeBehaviour();
+DialogBehaviour& transformBehaviour();
+DialogBehaviour& shewhartBehaviour();
+DialogBehaviour& operatingCurveBehaviour();
+DialogBehaviour& averageRunLengthBehaviour();
+DialogBehaviour& paretoBehaviour();
+DialogBehaviour& boxChartBehaviour();
+DialogBehaviour& movingAverageBehaviour();
+DialogBehaviour& ewmaBehaviour();
+DialogBehaviour& regressionChartBehaviour();
+DialogBehaviour& cusumBehaviour();
+DialogBehaviour& tsqBehaviour();
+DialogBehaviour& pcaBehaviour();
 
 }  // namespace kvs::stats

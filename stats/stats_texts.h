@@ -107,4 +107,152 @@ inline constexpr std::string_view kDiscriminantPrint[] = {
     " WCORR",   " TCOV",   " TCORR",  " GCOV",   " GCORR", " MAHAL", " CSCORE",
 };
 
+// Messages of the series and control-chart dialogs.
+inline constexpr std::string_view kCompleteRange = "You must provide a complete range.";
+inline constexpr std::string_view kLagRange = "Lag requires values between 1 and 9.";
+inline constexpr std::string_view kFunctionValue = "You must provide a value for the selected function.";
+inline constexpr std::string_view kUpperOrLower = "You must select 'Upper' or 'Lower' graph to display.";
+inline constexpr std::string_view kExternalFile = "You must select external file.";
+inline constexpr std::string_view kCenterRange = "Center value must be between 0 and 1";
+
+// Time series.
+inline constexpr std::string_view kSeries = "SERIES";
+inline constexpr std::string_view kOptionsSlash = " /";
+inline constexpr std::string_view kArima = "ARIMA ";
+inline constexpr std::string_view kArimaFile = "ARIMA.KVD";
+inline constexpr std::string_view kArParameters = " P=";
+inline constexpr std::string_view kSeasonalAr = " PS=";
+inline constexpr std::string_view kMaParameters = " Q=";
+inline constexpr std::string_view kSeasonalMa = " QS=";
+inline constexpr std::string_view kSeason = " SEASON=";
+inline constexpr std::string_view kIterations = " ITER=";
+inline constexpr std::string_view kConvergence = " CONV=";
+inline constexpr std::string_view kBackcast = " BACKCAST=";
+inline constexpr std::string_view kForecast = " FORECAST=";
+inline constexpr std::string_view kArimaRange = " ..";
+inline constexpr std::string_view kExpoRange = "..";
+inline constexpr std::string_view kEstimateConstant = " CONSTANT";
+inline constexpr std::string_view kDefaultParameters = "0";
+inline constexpr std::string_view kDefaultSeason = "12";
+inline constexpr std::string_view kDefaultIterations = "20";
+inline constexpr std::string_view kDefaultConvergence = ".01";
+inline constexpr std::string_view kDefaultBackcast = "0";
+inline constexpr std::string_view kExpo = "EXPO ";
+inline constexpr std::string_view kExpoFile = "EXPO.KVD";
+inline constexpr std::string_view kLinear = " LINEAR=";
+inline constexpr std::string_view kPercent = " PERCENT=";
+inline constexpr std::string_view kAdditiveValue = " ADDI=";
+inline constexpr std::string_view kMultiplicativeValue = " MULTI=";
+inline constexpr std::string_view kSmoothValue = " SMOOTH=";
+inline constexpr std::string_view kFourier = "FOURIER ";
+inline constexpr std::string_view kFourierFile = "FOURIER.KVD";
+inline constexpr std::string_view kFourierLag = " /LAG=";
+inline constexpr std::string_view kLag = "/LAG=";
+inline constexpr std::string_view kAcf = "ACF ";
+inline constexpr std::string_view kPacf = "PACF ";
+inline constexpr std::string_view kCcf = "CCF ";
+inline constexpr std::string_view kSmooth = "SMOOTH ";
+inline constexpr std::string_view kLowessFile = "LOWESS.KVD";
+inline constexpr std::string_view kLowess = "/LOWESS=";
+inline constexpr std::string_view kDefaultTension = ".5";
+inline constexpr std::string_view kAdjustSeason = "ADJSEASON ";
+inline constexpr std::string_view kSeasonalFile = "SEASONAL.KVD";
+inline constexpr std::string_view kAdditive = " ADDITIVE";
+inline constexpr std::string_view kMultiplicative = " MULT";
+inline constexpr std::string_view kSmoothFile = "SMOOTH.KVD";
+inline constexpr std::string_view kWeights = " /WT=";
+inline constexpr std::string_view kRunningMean = " /MEAN=";
+inline constexpr std::string_view kRunningMedian = " /MEDIAN=";
+inline constexpr std::string_view kTplot = "TPLOT ";
+inline constexpr std::string_view kTime = "TIME ";
+inline constexpr std::string_view kTimeSeparator = ",";
+inline constexpr std::string_view kFormat = " / FORMAT='";
+inline constexpr std::string_view kFormatEnd = "'";
+inline constexpr std::string_view kTransformFile = "TRANSFRM.KVD";
+
+// The transformations, by radio button (IDC_TRANSFORM_FIRST on): the verb,
+// and the option that carries the value for those that take one.
+struct Transformation {
+    std::string_view verb;
+    std::string_view option;  // empty: the transformation takes no value
+};
+inline constexpr Transformation kTransformations[] = {
+    {"LOG ", ""},         {"SQUARE ", ""},  {"MEAN ", ""},        {"TREND ", ""},
+    {"DIFF ", "/LAG="},   {"PCHANGE ", "/LAG="}, {"LAG ", "/LAG="}, {"POWER ", "/EXP="},
+};
+
+// Quality control charts.
+inline constexpr std::string_view kQc = "QC";
+inline constexpr std::string_view kShewhart = "SHEWHART ";
+inline constexpr std::string_view kOc = "OC";
+inline constexpr std::string_view kArl = "ARL";
+inline constexpr std::string_view kPareto = "PARETO ";
+inline constexpr std::string_view kBoxChart = "BOX ";
+inline constexpr std::string_view kMovingAverage = "MA ";
+inline constexpr std::string_view kEwma = "EWMA ";
+inline constexpr std::string_view kRegressionChart = "REGRESS ";
+inline constexpr std::string_view kCusum = "CUSUM ";
+inline constexpr std::string_view kTsq = "TSQ ";
+inline constexpr std::string_view kPca = "PCA ";
+inline constexpr std::string_view kBy = "*";
+inline constexpr std::string_view kChartType = " TYPE=";
+inline constexpr std::string_view kLimits = "LIMITS=";
+inline constexpr std::string_view kSpacedLimits = " LIMITS=";
+inline constexpr std::string_view kProbabilityLimits = " PLIMITS=";
+inline constexpr std::string_view kLimitSeparator = ", ";
+inline constexpr std::string_view kProbabilityType = " P";
+inline constexpr std::string_view kPresetType = " ";
+inline constexpr std::string_view kSigmaType = " S";
+inline constexpr std::string_view kCenter = " CENTER=";
+inline constexpr std::string_view kSigma = " SIGMA=";
+inline constexpr std::string_view kSampleSize = " N=";
+inline constexpr std::string_view kAverageSize = " AVGN";
+inline constexpr std::string_view kAggregate = " AGG";
+inline constexpr std::string_view kTotal = "=TOTAL";
+inline constexpr std::string_view kZUnits = " Z";
+inline constexpr std::string_view kCumulative = " CUM";
+inline constexpr std::string_view kParetoPercent = " P";
+inline constexpr std::string_view kWidth = " WIDTH=";
+inline constexpr std::string_view kSpanK = " K=";
+inline constexpr std::string_view kCusumH = " H=";
+inline constexpr std::string_view kStartPoint = " START=";
+inline constexpr std::string_view kUpperSum = " UPPER";
+inline constexpr std::string_view kLowerSum = " LOWER";
+inline constexpr std::string_view kZcl = " ZCL=";
+inline constexpr std::string_view kCovariance = " COVAR=";
+inline constexpr std::string_view kUsl = " USL=";
+inline constexpr std::string_view kLsl = " LSL=";
+
+// The chart types of the chart-type box, in the order shown, and the
+// keyword each writes.
+struct ChartType {
+    std::string_view entry;
+    std::string_view keyword;
+};
+inline constexpr ChartType kShewhartCharts[] = {
+    {"X-bar", "XBAR"},
+    {"Variance (Var)", "VAR"},
+    {"Standard Deviation (s)", "S"},
+    {"Range (r)", "R"},
+    {"X-Bar and Std.Dev.", "XBAR_S"},
+    {"X-bar and Range", "XBAR_R"},
+    {"Individual Cases (X)", "X"},
+    {"Binominal Count (np)", "NP"},
+    {"Binominal Proportion (p)", "P"},
+    {"Poisson Count (c)", "C"},
+    {"Poisson Rate (u)", "U"},
+};
+// The operating-characteristic and average-run-length curves: the same
+// without the combined and individual charts.
+inline constexpr ChartType kCurveCharts[] = {
+    {"X-bar", "XBAR"},
+    {"Variance (Var)", "VAR"},
+    {"Standard Deviation (s)", "S"},
+    {"Range (r)", "R"},
+    {"Binominal Count (np)", "NP"},
+    {"Binominal Proportion (p)", "P"},
+    {"Poisson Count (c)", "C"},
+    {"Poisson Rate (u)", "U"},
+};
+
 }  // namespace kvs::stats::text

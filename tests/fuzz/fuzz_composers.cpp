@@ -20,7 +20,9 @@
 #include "core/numeric_field.h"
 #include "data/composers.h"
 #include "graph/graph_composers.h"
+#include "stats/chart_composers.h"
 #include "stats/model_composers.h"
+#include "stats/series_composers.h"
 #include "stats/stats_composers.h"
 #include "tools/scenario/line_checks.h"
 
@@ -114,7 +116,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 16)) {
+    switch (in.ConsumeIntegralInRange(0, 18)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -197,6 +199,68 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         check(kvs::stats::composeGlm(in.ConsumeBool() ? 218 : 219, s, o, measures, dependents, independents).body);
         check(kvs::stats::composeRegression(s, o, dependents, independents).body);
         check(kvs::stats::composeDiscriminant(s, o, statistics, dependents, independents).body);
+        break;
+    }
+    case 17: {
+        namespace st = kvs::stats;
+        const auto value = [&in] { return in.ConsumeRandomLengthString(40); };
+        st::ArimaSettings a;
+        a.ar = in.ConsumeBool(), a.arValue = value(), a.seasonalAr = in.ConsumeBool(), a.seasonalArValue = value();
+        a.ma = in.ConsumeBool(), a.maValue = value(), a.seasonalMa = in.ConsumeBool(), a.seasonalMaValue = value();
+        a.periodicity = in.ConsumeBool(), a.period = value(), a.iterations = value(), a.convergence = value();
+        a.backcast = value(), a.constant = in.ConsumeBool();
+        a.forecast = in.ConsumeBool(), a.forecastKind = in.ConsumeBool() ? IDC_SERIES_FROM : IDC_SERIES_NUMBER;
+        a.forecastNumber = value(), a.forecastFrom = value(), a.forecastTo = value();
+        check(st::composeArima(a, names(in)).body);
+        st::ExpoSettings e;
+        e.trend = in.ConsumeBool(), e.trendKind = in.ConsumeBool() ? IDC_EXPO_PERCENT : IDC_EXPO_LINEAR;
+        e.linear = value(), e.percent = value(), e.seasonal = in.ConsumeBool(), e.additive = value();
+        e.seasonalKind = in.ConsumeBool() ? IDC_EXPO_MULTI : IDC_EXPO_ADDITIVE, e.multiplicative = value();
+        e.forecast = in.ConsumeBool(), e.forecastKind = in.ConsumeBool() ? IDC_SERIES_FROM : IDC_SERIES_NUMBER;
+        e.forecastNumber = value(), e.forecastFrom = value(), e.forecastTo = value();
+        e.period = value(), e.smooth = value();
+        check(st::composeExpo(e, names(in)).body);
+        const std::uint16_t lagged[] = {234, 239, 240, 241};
+        check(st::composeLagged(lagged[in.ConsumeIntegralInRange(0, 3)], {value()}, names(in)).body);
+        check(st::composeLowess({value()}, names(in)).body);
+        check(st::composeSeasonal({in.ConsumeBool(), IDC_SEASONAL_MULT, value()}, names(in)).body);
+        check(st::composeSmooth({IDC_SMOOTH_BY_WEIGHT + 2 * in.ConsumeIntegralInRange(0, 2),
+                                 in.ConsumeRandomLengthString(200), value(), value()},
+                                names(in)).body);
+        check(st::composeTime({value(), value(), value(), value()}).body);
+        check(st::composeTransform({in.ConsumeIntegralInRange(IDC_TRANSFORM_LOG - 1, IDC_TRANSFORM_POWER + 1), value()},
+                                   names(in)).body);
+        break;
+    }
+    case 18: {
+        namespace st = kvs::stats;
+        const auto limit = [&in] { return in.ConsumeRandomLengthString(130); };
+        const auto value = [&in] { return in.ConsumeRandomLengthString(12); };
+        const int types[] = {IDC_QC_PROBABILITY, IDC_QC_PRESET, IDC_QC_SIGMA_LIMITS};
+        st::ShewhartSettings s;
+        s.chart = in.ConsumeIntegralInRange(-1, 11), s.limitType = types[in.ConsumeIntegralInRange(0, 2)];
+        s.upper = limit(), s.lower = limit(), s.center = value(), s.sigma = value();
+        s.averageSize = in.ConsumeBool(), s.aggregate = in.ConsumeBool(), s.indicateSize = in.ConsumeBool();
+        s.zUnits = in.ConsumeBool();
+        check(st::composeShewhart(s, names(in), names(in)).body);
+        check(st::composeCurve(in.ConsumeBool() ? 271 : 272,
+                               {in.ConsumeIntegralInRange(-1, 8), value(), value(), value(), limit(), limit()})
+                  .body);
+        check(st::composePareto({in.ConsumeBool(), in.ConsumeBool(), in.ConsumeBool()}, names(in), names(in)).body);
+        check(st::composeBoxChart({value(), limit(), limit()}, names(in), names(in)).body);
+        st::MovingChartSettings m;
+        m.limitType = types[in.ConsumeIntegralInRange(0, 2)], m.upper = limit(), m.lower = limit();
+        m.span = value(), m.center = value(), m.sigma = value(), m.averageSize = in.ConsumeBool();
+        check(st::composeMovingChart(in.ConsumeBool() ? 275 : 276, m, names(in), names(in)).body);
+        st::CusumSettings c;
+        c.k = value(), c.h = value(), c.start = value(), c.upperSum = in.ConsumeBool(), c.lowerSum = in.ConsumeBool();
+        c.zcl = value(), c.center = value(), c.sigma = value(), c.aggregate = in.ConsumeBool();
+        check(st::composeCusum(c, names(in), names(in)).body);
+        st::TsqSettings t;
+        t.limitType = types[in.ConsumeIntegralInRange(0, 1)], t.upper = limit(), t.lower = limit();
+        t.external = in.ConsumeBool(), t.covarianceFile = in.ConsumeRandomLengthString(260);
+        check(st::composeTsq(t, names(in), names(in)).body);
+        check(st::composePca({value(), value()}, names(in)).body);
         break;
     }
     case 9: {
