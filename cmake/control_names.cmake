@@ -1,6 +1,7 @@
 # Writes OUTPUT, a C++ table of every "#define NAME number" of the control-id
 # headers INPUTS ('|'-separated), so scenarios can name controls by their
-# IDC_ names on both backends.
+# IDC_ names on both backends. A name defined twice with two values stops
+# the build: the resource compiler would give one template the other's id.
 string(REPLACE "|" ";" inputs "${INPUTS}")
 set(rows "")
 foreach(input IN LISTS inputs)
@@ -9,6 +10,14 @@ foreach(input IN LISTS inputs)
     string(REGEX REPLACE "^#define[ \t]+([A-Za-z_][A-Za-z0-9_]*)[ \t]+(-?[0-9]+).*" "\\1;\\2" pair "${line}")
     list(GET pair 0 name)
     list(GET pair 1 value)
+    if(DEFINED seen_${name})
+      if(NOT seen_${name} STREQUAL value)
+        message(FATAL_ERROR "${name} is ${seen_${name}} in ${from_${name}} and ${value} in ${input}")
+      endif()
+      continue()
+    endif()
+    set(seen_${name} ${value})
+    set(from_${name} ${input})
     string(APPEND rows "    {\"${name}\", ${value}},\n")
   endforeach()
 endforeach()

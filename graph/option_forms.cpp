@@ -275,9 +275,9 @@ constexpr KeywordRule kHistogramRules[] = {
 constexpr FormField kBoxFields[] = {{IDC_BOX_NOTCH, S::Check}};
 constexpr KeywordRule kBoxRules[] = {{Rule::Bare, "NOTCH", {IDC_BOX_NOTCH}}};
 
-constexpr FormField kCaseLabelFields[] = {{IDC_LABEL_TEXT, S::Text}, {IDC_LABEL_CSIZE, S::Number}};
+constexpr FormField kCaseLabelFields[] = {{IDC_GRAPH_LABEL_TEXT, S::Text}, {IDC_LABEL_CSIZE, S::Number}};
 constexpr KeywordRule kCaseLabelRules[] = {
-    {Rule::Quoted, "LABEL=", {IDC_LABEL_TEXT}},
+    {Rule::Quoted, "LABEL=", {IDC_GRAPH_LABEL_TEXT}},
     {Rule::Value, "CSIZE=", {IDC_LABEL_CSIZE}},
 };
 

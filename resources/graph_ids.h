@@ -210,7 +210,7 @@
 /* Bar, Slice and Pyramid Label; Case Labels. */
 #define IDC_LABEL_CSIZE         189
 #define IDC_LABEL_VALUES        190
-#define IDC_LABEL_TEXT          191
+#define IDC_GRAPH_LABEL_TEXT          191
 
 /* Histogram Options; Box Plot Options. */
 #define IDC_HIST_CUM            192

@@ -62,7 +62,7 @@ TEST(GraphOptionForms, RecordsWriteTheirKeywordsInTableOrder) {
         {2021, "DotOptions", {{IDC_BAROPT_PERCENT, "1"}, {IDC_BAROPT_LINE, "1"}}, " PERCENT LINE"},
         {2023, "HistogramOptions", {{IDC_HIST_CUM, "1"}, {IDC_HIST_BARS, "10"}}, " CUM BARS=10"},
         {2024, "BoxPlotOptions", {{IDC_BOX_NOTCH, "1"}}, " NOTCH"},
-        {2025, "CaseLabels", {{IDC_LABEL_TEXT, "NAME$"}, {IDC_LABEL_CSIZE, "1.5"}}, " LABEL='NAME$' CSIZE=1.5"},
+        {2025, "CaseLabels", {{IDC_GRAPH_LABEL_TEXT, "NAME$"}, {IDC_LABEL_CSIZE, "1.5"}}, " LABEL='NAME$' CSIZE=1.5"},
         {2026, "PieChartScale", {{IDC_PIE_POWER, "1"}, {IDC_PIE_POWER_VALUE, "0.5"}, {IDC_PIE_LOG_VALUE, "10"}},
          " YPOW=0.5"},
         {2026, "PieChartScale", {{IDC_PIE_NOSCALE, "1"}}, " SCALE=NONE"},
