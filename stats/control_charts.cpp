@@ -5,6 +5,7 @@
 
 #include "core/descriptor.h"
 #include "core/file_choosers.h"
+#include "core/messages.h"
 #include "stats/chart_composers.h"
 #include "stats/procedure_dialog.h"
 #include "stats/stats_dialogs_list.h"
@@ -126,10 +127,13 @@ public:
                                       .number(IDC_QC_UPPER, &CurveSettings::upper, kLimitValueLimit)
                                       .number(IDC_QC_LOWER, &CurveSettings::lower, kLimitValueLimit)) {}
 
-    // A refused centre takes the focus back.
+    // A proportion chart's centre is checked before the number fields, as
+    // text that is no number reads as 0 there; refused, it takes the focus.
     bool accept(DialogContext& context, int button) override {
-        if (ChartDialog::accept(context, button)) return true;
-        if (curveCenterRefused(working_)) context.view.setFocus(IDC_QC_CENTER);
+        bindings_.read(context.view, working_);
+        if (!curveCenterRefused(working_)) return ChartDialog::accept(context, button);
+        showStop(context.view.handle(), text::kCenterRange);
+        context.view.setFocus(IDC_QC_CENTER);
         return false;
     }
 
