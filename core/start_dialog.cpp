@@ -8,19 +8,20 @@
 #include "core/export_guard.h"
 #include "core/launcher.h"
 #include "core/library_state.h"
+#include "core/start_dialog.h"
 #include "include/kvs_dlg.h"
 
 namespace kvs {
 
 namespace {
 
-void runCase(const DispatchRow& row, WindowRef owner) {
+int runCase(const DispatchRow& row, WindowRef owner) {
     if (row.launch == Launch::Special) {
         if (row.special) row.special(row.id, owner);
-        return;
+        return 1;
     }
     Descriptor* descriptor = descriptorFor(row.id);
-    if (!descriptor) return;
+    if (!descriptor) return 0;
     LibraryState& lib = library();
     const bool hasSlots = row.firstSlot > 0;
     if (hasSlots)
@@ -30,16 +31,19 @@ void runCase(const DispatchRow& row, WindowRef owner) {
     if (result == 1 && hasSlots)
         for (int slot = row.firstSlot; slot <= row.lastSlot; ++slot)
             descriptor->extra[static_cast<std::size_t>(slot - row.firstSlot)] = lib.optionSlots[static_cast<std::size_t>(slot - 1)];
+    return result;
 }
 
-void dispatch(std::uint16_t id, Family family, WindowRef owner) {
+int dispatch(std::uint16_t id, std::uint16_t currentId, Family family, WindowRef owner) {
     LibraryState& lib = library();
-    lib.currentCommandId = id;
-    if (const DispatchRow* row = findDispatchRow(id)) runCase(*row, owner);
+    lib.currentCommandId = currentId;
+    int result = 0;
+    if (const DispatchRow* row = findDispatchRow(id)) result = runCase(*row, owner);
     if (family == Family::Data) {
         lib.optionSlots[0] = -1;
         lib.optionSlots[1] = -2;
     }
+    return result;
 }
 
 // A StartDialog made while another runs (from a host timer, say) must not
@@ -47,21 +51,20 @@ void dispatch(std::uint16_t id, Family family, WindowRef owner) {
 // resets.
 int nesting = 0;
 
-}  // namespace
-
-std::int32_t startDialog(std::uint32_t commandId, WindowRef owner, const char* helpFile) {
+// Runs dialog id with currentId as the current command id, then hands the
+// queued lines to the host; the dialog's result (0 when none ran).
+int run(std::uint16_t id, std::uint16_t currentId, WindowRef owner) {
     LibraryState& lib = library();
     const bool outermost = nesting == 0;
     const auto savedId = lib.currentCommandId;
     const auto savedSlots = lib.optionSlots;
     const auto savedHost = lib.hostWindow;
     ++nesting;
-    setHelpPath(helpFile);
     lib.hostWindow = owner;
-    const auto id = static_cast<std::uint16_t>(commandId & 0xFFFF);
     Family family{};
+    int result = 0;
     try {
-        if (familyOf(id, family)) dispatch(id, family, owner);
+        if (familyOf(id, family)) result = dispatch(id, currentId, family, owner);
     } catch (...) {
         // A dialog that failed half way leaves the library idle: the next
         // StartDialog must not look nested, and lines of the failed dialog
@@ -83,13 +86,27 @@ std::int32_t startDialog(std::uint32_t commandId, WindowRef owner, const char* h
         lib.currentCommandId = savedId;
         lib.optionSlots = savedSlots;
         lib.hostWindow = savedHost;
-        return 1;
+        return result;
     }
     queue::flush();
     lib.optionSlots.fill(-1);
     queue::clearCount();
     lib.currentCommandId = kNoCommand;
+    return result;
+}
+
+}  // namespace
+
+std::int32_t startDialog(std::uint32_t commandId, WindowRef owner, const char* helpFile) {
+    setHelpPath(helpFile);
+    const auto id = static_cast<std::uint16_t>(commandId & 0xFFFF);
+    run(id, id, owner);
     return 1;
+}
+
+std::int32_t runDialogAs(std::uint16_t dialogId, std::uint16_t currentId, WindowRef owner, const char* helpFile) {
+    if (helpFile) setHelpPath(helpFile);
+    return run(dialogId, currentId, owner);
 }
 
 std::int32_t reinitDialogs(std::int32_t freeFlag) {

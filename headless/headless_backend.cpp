@@ -66,6 +66,7 @@ const scenario::LibraryExports& HeadlessBackend::exports() {
         e.colorPickerDialogEx = &ColorPickerDialogEx;
         e.loadSymbolBitmapsEx = &LoadSymbolBitmapsEx;
         e.deleteSymbolBitmapsEx = &DeleteSymbolBitmapsEx;
+        e.traxCallDialog = &TRAXCallDialog;
         e.getDialogList = &GetDialogList;
         e.getLibraryVersion = &GetLibraryVersion;
         e.kvgFont = &lfKvgFont;

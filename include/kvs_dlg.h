@@ -88,7 +88,9 @@ KVS_EXPORT int32_t KVS_CALL DoImpExpOptionsDlg(KvsWindow owner, int32_t exportFl
 KVS_EXPORT int32_t KVS_CALL AttachSaveAsOptions(char* commandLine);
 KVS_EXPORT int32_t KVS_CALL AttachImpExpOptions(char* commandLine);
 
-/* Program selector of the companion package. text may be null. */
+/* Program selector of the companion package: value is the program to start
+ * from (another value: the one chosen last), text the help file or null; the
+ * extras are reserved. Returns 1 when a program was chosen, 0 otherwise. */
 KVS_EXPORT int32_t KVS_CALL TRAXCallDialog(uint32_t commandId, int32_t value, const char* text, int32_t extra1, int32_t extra2);
 
 /* Colour picker: on OK stores the chosen value (0 to 1) through colour and

@@ -85,7 +85,7 @@ constexpr DispatchRow kRows[] = {
     dialogRow(Family::Statistics, 298, "LogitDeciles", "Logit: Deciles of Risk", Launch::Standard, 1, 256, 0, 0, 0).flagged(kMarkerStartsUnset).behaving(logitDecilesBehaviour),
     dialogRow(Family::Statistics, 299, "LogitQuantiles", "Logit: Quantiles", Launch::Standard, 1, 1, 0, 0, 0).behaving(logitQuantilesBehaviour),
     dialogRow(Family::Statistics, 300, "LogitSimulate", "Logit: Simulation", Launch::Standard, 1, 1, 0, 0, 0).behaving(logitSimulationBehaviour),
-    dialogRow(Family::Statistics, 483, "TRAXComSelect", "Select TRAX Program", Launch::Standard, 1, 256, 0, 0, 0),
+    dialogRow(Family::Statistics, 483, "TRAXComSelect", "Select TRAX Program", Launch::Standard, 1, 256, 0, 0, 0).behaving(traxSelectBehaviour),
     specialRow(Family::Statistics, 242, runSeriesCommand),  // "CLEAR", no dialog
     specialRow(Family::Statistics, 245, runSeriesCommand),  // "MISSING=DELETE", no dialog
     specialRow(Family::Statistics, 246, runSeriesCommand),  // "MISSING=INTERPOLATE", no dialog

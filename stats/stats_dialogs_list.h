@@ -13,6 +13,7 @@ DialogBehaviour& logitHypothesisBehaviour();
 DialogBehaviour& logitDecilesBehaviour();
 DialogBehaviour& logitQuantilesBehaviour();
 DialogBehaviour& logitSimulationBehaviour();
+DialogBehaviour& traxSelectBehaviour();
 DialogBehaviour& anovaBehaviour();
 DialogBehaviour& glmBehaviour();
 DialogBehaviour& regressionBehaviour();

@@ -65,6 +65,27 @@ inline constexpr std::string_view kHypothesis = "HYPOTHESIS";
 inline constexpr std::string_view kConstrain = "CONSTRAIN ";
 inline constexpr std::string_view kTestLine = "TEST";
 
+// The companion package's program selector: the TRAX procedure line, then
+// the call of the chosen program.
+inline constexpr std::string_view kTrax = "TRAX";
+inline constexpr std::string_view kTraxCall = "CALL ";
+struct TraxProgram {
+    std::string_view name;
+    std::string_view description;
+};
+inline constexpr TraxProgram kTraxPrograms[] = {
+    {"DESCRIBE", "Descriptive statistics of numeric variables"},
+    {"FREQ", "Frequency tables of categorical variables"},
+    {"CROSSTAB", "Two-way tables with tests of association"},
+    {"MEANS", "Group means and one-way analysis of variance"},
+    {"REGRESS", "Multiple linear regression"},
+    {"FACTOR", "Principal components and factor analysis"},
+    {"CLUSTER", "Hierarchical and k-means clustering"},
+    {"NONPAR", "Nonparametric tests of location"},
+    {"SURVIVAL", "Life tables and survival curves"},
+    {"REPORT", "Formatted listing and summary of cases"},
+};
+
 // Linear models: ANOVA, GLM, Regression, Discriminant Analysis.
 inline constexpr std::string_view kAnova = "ANOVA";
 inline constexpr std::string_view kAnovaFile = "ANOVA.KVD";

@@ -32,6 +32,7 @@ void findOthers(HMODULE module, scenario::LibraryExports& e) {
     find(module, "ColorPickerDialogEx", e.colorPickerDialogEx);
     find(module, "LoadSymbolBitmapsEx", e.loadSymbolBitmapsEx);
     find(module, "DeleteSymbolBitmapsEx", e.deleteSymbolBitmapsEx);
+    find(module, "TRAXCallDialog", e.traxCallDialog);
     find(module, "GetDialogList", e.getDialogList);
     find(module, "GetLibraryVersion", e.getLibraryVersion);
     find(module, "lfKvgFont", e.kvgFont);

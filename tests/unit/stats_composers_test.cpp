@@ -8,6 +8,7 @@
 #include "stats/set_editor.h"
 #include "stats/stats_composers.h"
 #include "stats/stored_options.h"
+#include "stats/trax_select.h"
 
 namespace kvs::stats {
 namespace {
@@ -129,6 +130,15 @@ TEST(SetEditor, DefaultNamesSkipTakenOnesAndCountOncePerSet) {
     EXPECT_EQ(SetEditor::defaultName(289, 1, sets), "Set4");
     EXPECT_EQ(SetEditor::defaultName(292, 0, {}), "TDC1");
     EXPECT_EQ(SetEditor::defaultName(289, 0, {{"set1", {}, 0}}), "Set1") << "case counts";
+}
+
+TEST(TraxSelector, CallsTheChosenProgramOnly) {
+    EXPECT_EQ(composeTraxCall(0).body.lines, std::vector<std::string>{"CALL DESCRIBE"});
+    EXPECT_EQ(composeTraxCall(9).body.lines, std::vector<std::string>{"CALL REPORT"});
+    EXPECT_TRUE(composeTraxCall(-1).body.refused());
+    EXPECT_TRUE(composeTraxCall(10).body.refused());
+    EXPECT_EQ(composeTraxCall(3).procedure, "TRAX");
+    EXPECT_TRUE(composeTraxCall(3).saveFile.empty()) << "the selector saves no file";
 }
 
 TEST(SetEditor, WorkingCopyGrowsBySixteen) {

@@ -19,6 +19,7 @@ constexpr CallStatement kCalls[] = {
     {"samplingupdate", runSamplingUpdate},
     {"samplingclear", runSamplingClear},
     {"samplingbar", runSamplingBar},
+    {"trax", runTrax},
     {"nullcalls", runNullCalls},
 };
 

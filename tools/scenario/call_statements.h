@@ -56,6 +56,8 @@ void runSamplingStart(CallContext&);
 void runSamplingUpdate(CallContext&);
 void runSamplingClear(CallContext&);
 void runSamplingBar(CallContext&);
+// The companion package's program selector.
+void runTrax(CallContext&);
 // Every export with the null pointers and out-of-range values a host may pass.
 void runNullCalls(CallContext&);
 

@@ -21,6 +21,7 @@ struct LibraryExports {
     decltype(&ColorPickerDialogEx) colorPickerDialogEx = nullptr;
     decltype(&LoadSymbolBitmapsEx) loadSymbolBitmapsEx = nullptr;
     decltype(&DeleteSymbolBitmapsEx) deleteSymbolBitmapsEx = nullptr;
+    decltype(&TRAXCallDialog) traxCallDialog = nullptr;
     decltype(&GetDialogList) getDialogList = nullptr;
     decltype(&GetLibraryVersion) getLibraryVersion = nullptr;
     KvsLogFont* kvgFont = nullptr;     // lfKvgFont
