@@ -4,6 +4,7 @@
 #pragma once
 
 #include "common_ids.h"
+#include "estimate_ids.h"
 
 namespace kvs {
 
@@ -23,6 +24,7 @@ inline constexpr ListTransferRow kListTransfers[] = {
     {IDC_ADD5, IDC_REMOVE5, IDC_TARGET5, {IDC_SOURCE, IDC_SOURCE}},
     {IDC_ADD_DEPENDENT, IDC_REMOVE_DEPENDENT, IDC_DEPENDENT, {IDC_SOURCE, IDC_SOURCE}},
     {IDC_ADD_VARIABLE, IDC_REMOVE_VARIABLE, IDC_VARIABLE_LIST, {IDC_SOURCE, IDC_SOURCE}},
+    {IDC_TDC_ADD, IDC_TDC_REMOVE, IDC_TDC_VARIABLES, {IDC_SOURCE, IDC_SOURCE}},
 };
 
 }  // namespace kvs

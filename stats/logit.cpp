@@ -7,6 +7,7 @@
 #include "core/messages.h"
 #include "core/option_dialog.h"
 #include "core/procedure_block.h"
+#include "stats/hypothesis_dialog.h"
 #include "stats/model_line.h"
 #include "stats/procedure_dialog.h"
 #include "stats/set_editor.h"
@@ -247,38 +248,7 @@ Composition hypothesisLines(std::string_view typed) {
     return lines;
 }
 
-namespace {
-
-struct HypothesisSettings {
-    std::string text;
-};
-HypothesisSettings hypothesisSettings;
-constexpr std::size_t kHypothesisLimit = 30000;
-
-class HypothesisDialog : public ProcedureDialog<HypothesisSettings> {
-public:
-    HypothesisDialog()
-        : ProcedureDialog(hypothesisSettings, Bindings<HypothesisSettings>().text(
-                                                  IDC_HYPOTHESIS_TEXT, &HypothesisSettings::text, kHypothesisLimit)) {}
-
-    // An empty text is forgotten and the dialog stays open, without a word.
-    bool accept(DialogContext& context, int button) override {
-        if (isBlankText(context.view.text(IDC_HYPOTHESIS_TEXT))) {
-            stored_ = HypothesisSettings{};
-            return false;
-        }
-        return ProcedureDialog::accept(context, button);
-    }
-
-private:
-    ProcedureBlock compose(const HypothesisSettings& settings, const DialogView&) const override {
-        return {text::kLogit, {}, {}, hypothesisLines(settings.text)};
-    }
-};
-
-}  // namespace
-
 DialogBehaviour& logitBehaviour() { return soleInstance<LogitDialog>(); }
-DialogBehaviour& logitHypothesisBehaviour() { return soleInstance<HypothesisDialog>(); }
+DialogBehaviour& logitHypothesisBehaviour() { return soleInstance<HypothesisDialog<text::kLogit>>(); }
 
 }  // namespace kvs::stats

@@ -4,6 +4,7 @@
 
 #include "core/dialog_behaviour.h"
 #include "core/messages.h"
+#include "resources/estimate_ids.h"
 #include "stats/stats_texts.h"
 
 namespace kvs::stats {
@@ -12,6 +13,10 @@ namespace {
 
 constexpr std::size_t kTypedNameLimit = 12;
 constexpr std::int32_t kSetCapacity = 256;
+constexpr int kCovariateValues = IDC_TDC_VARIABLES;  // survival: a set's values over time
+
+// The list that shows the current set's variables.
+int variablesListOf(std::uint16_t commandId) { return commandId == 292 ? kCovariateValues : IDC_TARGET1; }
 
 bool named(const std::vector<NamedSet>& sets, std::string_view name) {
     return std::any_of(sets.begin(), sets.end(), [&](const NamedSet& set) { return set.name == name; });
@@ -29,10 +34,11 @@ int leadingSetEntries(const DialogView& view, int sourceId) {
 }  // namespace
 
 SetEditor::SetEditor(ChoiceSets& record, std::uint16_t commandId, std::uint32_t helpTopic)
-    : VariableSubDialog(commandId, helpTopic, {{IDC_TARGET1, kSetCapacity}, {IDC_VARIABLE_LIST, 1}}),
+    : VariableSubDialog(commandId, helpTopic, {{variablesListOf(commandId), kSetCapacity}, {IDC_VARIABLE_LIST, 1}}),
       record_(record),
       working_(record),
-      commandId_(commandId) {}
+      commandId_(commandId),
+      variablesList_(variablesListOf(commandId)) {}
 
 std::string SetEditor::defaultName(std::uint16_t commandId, int counter, const std::vector<NamedSet>& sets) {
     const std::string stem = commandId == 292 ? "TDC" : "Set";
@@ -53,7 +59,7 @@ void SetEditor::showSets(DialogView& view) {
     for (const NamedSet& set : working_.sets) view.comboAdd(IDC_SET_NAME, set.name);
     if (current_ >= 0) {
         view.comboSelect(IDC_SET_NAME, current_);
-        showNames(view, IDC_TARGET1, working_.sets[static_cast<std::size_t>(current_)].variables);
+        showNames(view, variablesList_, working_.sets[static_cast<std::size_t>(current_)].variables);
     }
 }
 
@@ -64,7 +70,7 @@ void SetEditor::show(DialogView& view) {
     view.limitText(IDC_SET_NAME, kTypedNameLimit);
     showSets(view);
     if (working_.sets.empty()) newSet(view);
-    if (!working_.alternatives.empty()) view.listAdd(IDC_VARIABLE_LIST, working_.alternatives, ListInsert::Append);
+    if (!working_.alternatives.empty() && view.has(IDC_VARIABLE_LIST)) view.listAdd(IDC_VARIABLE_LIST, working_.alternatives, ListInsert::Append);
     view.setText(IDC_SET_CATEGORIES, working_.categories);
 }
 
@@ -81,7 +87,7 @@ bool SetEditor::storeCurrent(DialogView& view, bool typedName) {
     }
     set.name = name;
     renamed_.clear();
-    set.variables = listNames(view, IDC_TARGET1);
+    set.variables = listNames(view, variablesList_);
     return true;
 }
 
@@ -114,8 +120,10 @@ void SetEditor::other(DialogView& view, const Notification& n) {
 
 bool SetEditor::keep(DialogView& view) {
     if (!storeCurrent(view, true)) return false;
-    const Names& alternatives = listNames(view, IDC_VARIABLE_LIST);
-    working_.alternatives = alternatives.empty() ? std::string() : alternatives.front();
+    if (view.has(IDC_VARIABLE_LIST)) {
+        const Names& alternatives = listNames(view, IDC_VARIABLE_LIST);
+        working_.alternatives = alternatives.empty() ? std::string() : alternatives.front();
+    }
     working_.categories = view.text(IDC_SET_CATEGORIES);
     record_ = working_;
     return true;

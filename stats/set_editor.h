@@ -1,5 +1,6 @@
 // The set editor: names sets of variables (the discrete-choice sets of
-// Logit, the time-dependent covariates of survival analysis). It works on a
+// Logit, the time-dependent covariates of survival analysis, whose variables
+// are shown in list 33 instead of 10). It works on a
 // copy of the record while open; Continue stores the set being edited and
 // keeps the copy.
 #pragma once
@@ -33,6 +34,7 @@ private:
     ChoiceSets& record_;
     ChoiceSets working_;
     std::uint16_t commandId_;
+    int variablesList_;  // the list of the current set's variables
     int current_ = -1;
     int counter_ = 0;
     std::string renamed_;  // a name typed into the combo box, not yet stored

@@ -41,5 +41,13 @@ DialogBehaviour& regressionChartBehaviour();
 DialogBehaviour& cusumBehaviour();
 DialogBehaviour& tsqBehaviour();
 DialogBehaviour& pcaBehaviour();
+DialogBehaviour& probitBehaviour();
+DialogBehaviour& tslsBehaviour();
+DialogBehaviour& glmPairwiseBehaviour();
+DialogBehaviour& glmHypothesisBehaviour();
+DialogBehaviour& anovaHypothesisBehaviour();
+DialogBehaviour& nonlinBehaviour();
+DialogBehaviour& lossBehaviour();
+DialogBehaviour& survivalBehaviour();
 
 }  // namespace kvs::stats

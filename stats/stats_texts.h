@@ -276,4 +276,43 @@ inline constexpr ChartType kCurveCharts[] = {
     {"Poisson Rate (u)", "U"},
 };
 
+// Probit, Two Stage Least Squares, the GLM comparisons and hypotheses,
+// Nonlinear Model, Loss and Survival.
+inline constexpr std::string_view kProbit = "PROBIT";
+inline constexpr std::string_view kProbitFile = "PROBIT.KVD";
+inline constexpr std::string_view kTsls = "TSLS";
+inline constexpr std::string_view kTslsFile = "TSLS.KVD";
+inline constexpr std::string_view kInstruments = " / ";
+inline constexpr std::string_view kInstrumentConstant = "CONSTANT +";
+inline constexpr std::string_view kEstimatePlain = "ESTIMATE";
+inline constexpr std::string_view kRobust = " / HC";
+inline constexpr std::string_view kPost = "POST ";
+inline constexpr std::string_view kPostTests[] = {" / BONF", " / TUKEY", " / LSD", " / SCHEFFE"};
+inline constexpr std::string_view kNonlin = "NONLIN";
+inline constexpr std::string_view kNonlinFile = "NONLIN.KVD";
+inline constexpr std::string_view kSaveQualifier = " / ";
+// The save box's entries, in order, and what each writes after " / ".
+inline constexpr std::string_view kNonlinSaveEntries[] = {
+    "Data", "Residuals", "Residuals/Data", "Response Surface", "Confidence Interval", "Confidence Region", "Parameters",
+};
+inline constexpr std::string_view kNonlinSaveKeywords[] = {"DATA", "RESID", "RESID,DATA", "RS", "CI", "CR", " PARAMS"};
+inline constexpr std::string_view kSaveConfidence = " CONFI=";
+inline constexpr std::string_view kDefaultSaveConfidence = "0.95";
+inline constexpr std::string_view kSimplex = " / SIMPLEX";
+inline constexpr std::string_view kQuasi = " / QUASI";
+inline constexpr std::string_view kLoss = "LOSS";
+inline constexpr std::string_view kLossEquals = "LOSS = ";
+inline constexpr std::string_view kSurvival = "SURVIVAL";
+inline constexpr std::string_view kSurvivalFile = "SURVIVAL.KVD";
+inline constexpr std::string_view kSurvivalOptions = " / ";
+inline constexpr std::string_view kCensor = "CENSOR=";
+inline constexpr std::string_view kLower = "LOWER=";
+inline constexpr std::string_view kStrata = "STRATA=";
+inline constexpr std::string_view kMaximumTime = "TMAX=";
+inline constexpr std::string_view kOptionComma = ", ";
+inline constexpr std::string_view kLifeTable = "LTAB";
+inline constexpr std::string_view kSpecifyCovariates = "You must specify Time Dependent Covariates for each Covariate.";
+inline constexpr std::string_view kSelectCovariates = "You must select Time Dependent Covariates for each Covariate.";
+inline constexpr std::string_view kMaximumTimeMissing = "You must specify Maximum time.";
+
 }  // namespace kvs::stats::text

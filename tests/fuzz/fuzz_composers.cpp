@@ -21,6 +21,7 @@
 #include "data/composers.h"
 #include "graph/graph_composers.h"
 #include "stats/chart_composers.h"
+#include "stats/estimate_composers.h"
 #include "stats/model_composers.h"
 #include "stats/series_composers.h"
 #include "stats/stats_composers.h"
@@ -116,7 +117,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 18)) {
+    switch (in.ConsumeIntegralInRange(0, 19)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -261,6 +262,33 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         t.external = in.ConsumeBool(), t.covarianceFile = in.ConsumeRandomLengthString(260);
         check(st::composeTsq(t, names(in), names(in)).body);
         check(st::composePca({value(), value()}, names(in)).body);
+        break;
+    }
+    case 19: {
+        // Probit, TSLS, pairwise comparisons, Nonlinear Model, Loss, Survival.
+        namespace st = kvs::stats;
+        const auto value = [&in] { return in.ConsumeRandomLengthString(200); };
+        const st::EstimateSettings e{in.ConsumeBool(), in.ConsumeBool()};
+        const kvs::Names dependent = names(in), independents = names(in), instruments = names(in);
+        check(st::composeProbit(e, dependent, independents).body);
+        check(st::composeTsls(e, dependent, independents, instruments).body);
+        check(st::composePairwise({in.ConsumeIntegralInRange(IDC_POST_BONFERRONI - 1, IDC_POST_SCHEFFE + 1)},
+                                  names(in)).body);
+        st::NonlinSettings n;
+        n.equation = in.ConsumeRandomLengthString(12000), n.method = in.ConsumeIntegralInRange(43, 47);
+        n.save = in.ConsumeIntegralInRange(-1, 7), n.saveValue = value(), n.confidence = value();
+        n.saving = in.ConsumeBool();
+        check(st::composeNonlin(n, dependent).body);
+        if (st::nonlinSaveQualifier(n).size() > kvs::CommandText::kCapacity - 1) std::abort();
+        check(st::composeLoss({in.ConsumeBool() ? IDC_LOSS_FUNCTION : IDC_LOSS_LEAST_SQUARES,
+                               in.ConsumeRandomLengthString(12000)}).body);
+        st::SurvivalSettings s;
+        s.lifeTable = in.ConsumeBool(), s.covariates.categories = value();
+        for (int i = in.ConsumeIntegralInRange(0, 20); i > 0; --i) s.covariates.sets.push_back({value(), names(in), 0});
+        st::SurvivalLists lists{names(in), names(in), names(in), names(in), names(in)};
+        for (std::string& covariate : lists.covariates)
+            if (in.ConsumeBool()) covariate = "*" + covariate;
+        check(st::composeSurvival(s, lists).body);
         break;
     }
     case 9: {
