@@ -12,6 +12,7 @@
 #include "core/leave_checked_fields.h"
 #include "core/variable_list.h"
 #include "graph/control_values.h"
+#include "graph/function_catalogue.h"
 #include "graph/graph_specs.h"
 #include "graph/option_codes.h"
 #include "graph/option_buttons.h"
@@ -24,9 +25,8 @@ namespace kvs::graph {
 namespace {
 
 // What the function plot offers to insert into its equation.
-constexpr std::string_view kFunctions[] = {"ABS(", "ACS(", "ASN(", "ATN(", "COS(", "EXP(",
-                                           "LOG(", "L10(", "SIN(", "SQR(", "TAN("};
-constexpr std::string_view kOperators[] = {"+", "-", "*", "/", "^", "(", ")", "X", "Y"};
+// The function plot's operators add its two axes.
+constexpr std::string_view kAxisOperands[] = {"X", "Y"};
 
 // Distributions whose keyword takes one parameter, and those that take two.
 bool takesParameter(int distribution) {
@@ -44,8 +44,9 @@ public:
         DialogView& view = context.view;
         fillCombos(view, spec_.combos);
         if (spec_.id == 119) {
-            for (std::string_view f : kFunctions) view.listAdd(IDC_FPLOT_FUNCTIONS, f, ListInsert::Append);
-            for (std::string_view o : kOperators) view.listAdd(IDC_FPLOT_OPERATORS, o, ListInsert::Append);
+            for (std::string_view f : kEquationFunctions) view.listAdd(IDC_FPLOT_FUNCTIONS, f, ListInsert::Append);
+            for (std::string_view o : kEquationOperators) view.listAdd(IDC_FPLOT_OPERATORS, o, ListInsert::Append);
+            for (std::string_view o : kAxisOperands) view.listAdd(IDC_FPLOT_OPERATORS, o, ListInsert::Append);
         }
         working_ = remembered_.empty() ? defaultValues({spec_.fields, {}, {}}) : remembered_;
         transposed_ = rememberedTranspose_;

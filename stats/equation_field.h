@@ -7,13 +7,12 @@
 
 #include "core/dialog_behaviour.h"
 #include "core/seam.h"
+#include "graph/function_catalogue.h"
 
 namespace kvs::stats {
 
-// The functions, as the function plot lists them.
-inline constexpr std::string_view kEquationFunctions[] = {"ABS(", "ACS(", "ASN(", "ATN(", "COS(", "EXP(",
-                                                          "LOG(", "L10(", "SIN(", "SQR(", "TAN("};
-inline constexpr std::string_view kEquationOperators[] = {"+", "-", "*", "/", "^", "(", ")"};
+using graph::kEquationFunctions;
+using graph::kEquationOperators;
 
 // Fills the function and operator lists.
 void fillEquationLists(DialogView& view);
