@@ -24,8 +24,7 @@ namespace kvs::graph {
 
 namespace {
 
-// What the function plot offers to insert into its equation.
-// The function plot's operators add its two axes.
+// The function plot offers the equation catalogue and its two axes.
 constexpr std::string_view kAxisOperands[] = {"X", "Y"};
 
 // Distributions whose keyword takes one parameter, and those that take two.
