@@ -40,5 +40,14 @@ DialogBehaviour& regressionChartBehaviour();
 DialogBehaviour& cusumBehaviour();
 DialogBehaviour& tsqBehaviour();
 DialogBehaviour& pcaBehaviour();
+DialogBehaviour& basicStatsBehaviour();
+DialogBehaviour& cronbachBehaviour();
+DialogBehaviour& stemBehaviour();
+DialogBehaviour& correlationsBehaviour();
+DialogBehaviour& joinBehaviour();
+DialogBehaviour& kmeansBehaviour();
+DialogBehaviour& addtreeBehaviour();
+DialogBehaviour& factorBehaviour();
+DialogBehaviour& mdsBehaviour();
 
 }  // namespace kvs::stats
