@@ -49,5 +49,14 @@ DialogBehaviour& anovaHypothesisBehaviour();
 DialogBehaviour& nonlinBehaviour();
 DialogBehaviour& lossBehaviour();
 DialogBehaviour& survivalBehaviour();
+DialogBehaviour& basicStatsBehaviour();
+DialogBehaviour& cronbachBehaviour();
+DialogBehaviour& stemBehaviour();
+DialogBehaviour& correlationsBehaviour();
+DialogBehaviour& joinBehaviour();
+DialogBehaviour& kmeansBehaviour();
+DialogBehaviour& addtreeBehaviour();
+DialogBehaviour& factorBehaviour();
+DialogBehaviour& mdsBehaviour();
 
 }  // namespace kvs::stats

@@ -316,3 +316,152 @@ inline constexpr std::string_view kSelectCovariates = "You must select Time Depe
 inline constexpr std::string_view kMaximumTimeMissing = "You must specify Maximum time.";
 
 }  // namespace kvs::stats::text
+
+// Basic Statistics, Cronbach, Stem, Correlations, clustering, Factor
+// Analysis and Multidimensional Scaling.
+namespace kvs::stats::text {
+
+// An entry of a choice box and the keyword it writes.
+struct Choice {
+    std::string_view entry;
+    std::string_view keyword;
+};
+
+// Basic Statistics (248), Cronbach (250), Stem (251).
+inline constexpr std::string_view kStats = "STATS";
+inline constexpr std::string_view kStatsFile = "STATS.KVD";
+inline constexpr std::string_view kOnewayFile = "ONEWAY.KVD";
+inline constexpr std::string_view kCronbachFile = "CRONBACH.KVD";
+inline constexpr std::string_view kStatistics = "STATISTICS";
+inline constexpr std::string_view kOneway = "ONEWAY";
+inline constexpr std::string_view kCronbach = "CRONBACH ";
+inline constexpr std::string_view kStem = "STEM ";
+inline constexpr std::string_view kTukey = " / TUKEY";
+inline constexpr std::string_view kStatisticsSlash = " /";
+inline constexpr std::string_view kCim = " CIM";
+inline constexpr std::string_view kCimValue = "=";
+inline constexpr std::string_view kDefaultCim = ".95";
+inline constexpr std::string_view kStemLines = " / LINE=";
+inline constexpr std::string_view kSaveAggregated = "/ AG";
+inline constexpr std::string_view kPrintShort = "PRINT SHORT";
+inline constexpr std::string_view kPrintLong = "PRINT LONG";
+// The statistics of the list, in the order shown and written.
+inline constexpr Choice kStatisticsList[] = {
+    {"Mean", " Mean"},         {"Minimum", " Min"},      {"Maximum", " Max"},
+    {"Std. deviation", " SD"}, {"CV", " CV"},            {"Kurtosis", " Kurtosis"},
+    {"Median", " Median"},     {"Range", " Range"},      {"SE of kurtosis", " SEK"},
+    {"SE of mean", " SEM"},    {"SE of skewness", " SES"}, {"Skewness", " Skewness"},
+    {"Sum", " Sum"},           {"Variance", " Variance"}, {"N of cases", " N"},
+};
+inline constexpr std::string_view kPrintLengths[] = {"Short", "Medium", "Long"};
+inline constexpr std::string_view kStatsSaveKinds[] = {"Statistics", "Aggregate by groups"};
+
+// Correlations (204).
+inline constexpr std::string_view kCorr = "CORR";
+inline constexpr std::string_view kCorrFile = "CORR.KVD";
+inline constexpr std::string_view kPairwise = " / PAIRWISE";
+inline constexpr std::string_view kWith = " * ";
+inline constexpr Choice kCorrMeasures[] = {
+    {"Pearson", "PEARSON"},
+    {"Covariance", "COVARIANCE"},
+    {"SSCP", "SSCP"},
+    {"Spearman", "SPEARMAN"},
+    {"Gamma", "GAMMA"},
+    {"Mu2", "MU2"},
+    {"Tau", "TAU"},
+    {"Euclidean distance", "EUCLID"},
+    {"Tetrachoric", "TETRA"},
+    {"S2 (Russell and Rao)", "S2"},
+    {"S3 (Jaccard)", "S3"},
+    {"S4 (simple matching)", "S4"},
+    {"S5 (Anderberg)", "S5"},
+    {"S6 (Tanimoto)", "S6"},
+};
+
+// Clustering (202 JOIN, 203 KMEANS, 254 ADDTREE).
+inline constexpr std::string_view kCluster = "CLUSTER";
+inline constexpr std::string_view kJoinFile = "JOIN.KVD";
+inline constexpr std::string_view kKmeansFile = "KMEANS.KVD";
+inline constexpr std::string_view kAddtreeFile = "ADDTREE.KVD";
+inline constexpr std::string_view kJoin = "JOIN";
+inline constexpr std::string_view kKmeans = "KMEANS";
+inline constexpr std::string_view kAddtree = "ADDTREE";
+inline constexpr std::string_view kClusterSlash = " /";
+inline constexpr std::string_view kRows = " ROWS";
+inline constexpr std::string_view kColumns = " COLUMNS";
+inline constexpr std::string_view kMatrix = " MATRIX";
+inline constexpr std::string_view kDistance = " DISTANCE=";
+inline constexpr std::string_view kPower = " POWER=";
+inline constexpr std::string_view kLinkage = " LINKAGE=";
+inline constexpr std::string_view kPolar = " POLAR";
+inline constexpr std::string_view kNumber = " NUMBER=";
+inline constexpr std::string_view kIter = " ITER=";
+inline constexpr std::string_view kHeight = " HEIGHT";
+inline constexpr std::string_view kMinvar = " MINVAR";
+inline constexpr std::string_view kNoNumbers = " NONUMBERS";
+inline constexpr std::string_view kNoSubtract = " NOSUBTRACT";
+inline constexpr std::string_view kNoTree = " NOTREE";
+inline constexpr std::string_view kData = " DATA";
+inline constexpr std::string_view kTransformed = " TRANSFORMED";
+inline constexpr std::string_view kAdditiveMatrix = " ADDITIVE";
+inline constexpr std::string_view kResiduals = " RESIDUALS";
+// The first entry of each is the procedure's own default and writes nothing.
+inline constexpr Choice kDistances[] = {
+    {"Euclidean", "EUCLIDEAN"}, {"Normalized Euclidean", "NORM"}, {"Minkowski", "MINKOWSKI"},
+    {"Pearson", "PEARSON"},     {"R-square", "RSQUARED"},         {"Gamma", "GAMMA"},
+    {"Chi-square", "CHISQUARE"}, {"Phi-square", "PHI2"},          {"Percent", "PERCENT"},
+};
+inline constexpr int kMinkowski = 2;  // the distance that takes a power
+inline constexpr Choice kLinkages[] = {
+    {"Single", "SINGLE"},     {"Complete", "COMPLETE"}, {"Average", "AVERAGE"}, {"Centroid", "CENTROID"},
+    {"Median", "MEDIAN"},     {"Ward", "WARD"},         {"Weighted", "WEIGHTED"},
+};
+
+// Factor Analysis (215).
+inline constexpr std::string_view kFactor = "FACTOR";
+inline constexpr std::string_view kFactorFile = "FACTOR.KVD";
+inline constexpr std::string_view kFactorMethod = "/ METHOD=";
+inline constexpr std::string_view kListwise = " LISTWISE";
+inline constexpr std::string_view kPairwiseDeletion = " PAIRWISE";
+inline constexpr std::string_view kCorrMatrix = " CORR";
+inline constexpr std::string_view kCovMatrix = " COV";
+inline constexpr std::string_view kSort = " SORT";
+inline constexpr std::string_view kEigen = " EIGEN=";
+inline constexpr std::string_view kConv = " CONV=";
+inline constexpr std::string_view kDefaultFactorConv = ".001";
+inline constexpr std::string_view kPrint = "PRINT";
+inline constexpr std::string_view kLong = " LONG";
+inline constexpr std::string_view kShort = " SHORT";
+inline constexpr std::string_view kExit = "EXIT";
+inline constexpr Choice kFactorMethods[] = {
+    {"Principal components", "PCA"},
+    {"Iterated principal axis", "IPA"},
+    {"Maximum likelihood", "MLA"},
+};
+inline constexpr std::string_view kFactorSaveModes[] = {"None", "Scores", "Coefficients", "Loadings"};
+
+// Multidimensional Scaling (216).
+inline constexpr std::string_view kMds = "MDS";
+inline constexpr std::string_view kMdsFile = "MDS.KVD";
+inline constexpr std::string_view kShapeSquare = " / SHAPE=SQUARE";
+inline constexpr std::string_view kShapeRect = " / SHAPE=RECT";
+inline constexpr std::string_view kMdsRows = " ROWS=";
+inline constexpr std::string_view kDim = " DIM=";
+inline constexpr std::string_view kMdsConverge = " CONVERGE=";
+inline constexpr std::string_view kDefaultMdsConverge = "0.005";
+inline constexpr std::string_view kWeight = " WEIGHT";
+inline constexpr std::string_view kSplit = " SPLIT=";
+inline constexpr std::string_view kLoss = " LOSS=";
+inline constexpr std::string_view kKruskalRegression = "KRUSKAL REGRESSION=";
+inline constexpr std::string_view kGuttman = "GUTTMAN";
+inline constexpr std::string_view kYoung = "YOUNG";
+inline constexpr Choice kMdsRegressions[] = {
+    {"Monotonic", "MONO"}, {"Linear", "LINEAR"}, {"Log", "LOG"}, {"Power", "POWER"},
+};
+inline constexpr Choice kMdsSplits[] = {{"None", ""}, {"Rows", "ROW"}, {"Matrices", "MATRIX"}};
+inline constexpr std::string_view kMdsSaveQualifier = " / ";
+inline constexpr Choice kMdsSaveKinds[] = {
+    {"Configuration", "CONFIG"}, {"Distances", "DIST"}, {"Residuals", "RESID"},
+};
+
+}  // namespace kvs::stats::text

@@ -23,6 +23,7 @@
 #include "stats/chart_composers.h"
 #include "stats/estimate_composers.h"
 #include "stats/model_composers.h"
+#include "stats/multivariate_composers.h"
 #include "stats/series_composers.h"
 #include "stats/stats_composers.h"
 #include "tools/scenario/line_checks.h"
@@ -117,7 +118,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 19)) {
+    switch (in.ConsumeIntegralInRange(0, 20)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -289,6 +290,39 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         for (std::string& covariate : lists.covariates)
             if (in.ConsumeBool()) covariate = "*" + covariate;
         check(st::composeSurvival(s, lists).body);
+        break;
+    }
+    case 20: {
+        namespace st = kvs::stats;
+        const auto value = [&in] { return in.ConsumeRandomLengthString(40); };
+        const auto position = [&in] { return in.ConsumeIntegralInRange(-1, 20); };
+        st::BasicStatsSettings b;
+        b.statistics = in.ConsumeIntegral<std::uint32_t>(), b.cim = in.ConsumeBool(), b.confidence = value();
+        b.tukey = in.ConsumeBool(), b.print = position(), b.saveKind = position();
+        check(st::composeBasicStats(b, names(in), names(in)).body);
+        check(st::composeCronbach(names(in)).body);
+        check(st::composeStem({value()}, names(in)).body);
+        st::CorrSettings c;
+        c.measure = position(), c.missing = in.ConsumeBool() ? IDC_CORR_PAIRWISE : IDC_CORR_LISTWISE;
+        check(st::composeCorrelations(c, names(in), names(in)).body);
+        st::JoinSettings j;
+        j.clustering = IDC_JOIN_ROWS + in.ConsumeIntegralInRange(0, 2), j.distance = position(), j.power = value();
+        j.linkage = position(), j.polar = in.ConsumeBool(), j.saveNumber = value();
+        check(st::composeJoin(j, names(in), in.ConsumeBool()).body);
+        check(st::composeKmeans({value(), value(), position()}, names(in)).body);
+        st::AddtreeSettings t;
+        t.height = in.ConsumeBool(), t.numbers = in.ConsumeBool(), t.tree = in.ConsumeBool(), t.data = in.ConsumeBool();
+        check(st::composeAddtree(t, names(in)).body);
+        st::FactorSettings f;
+        f.method = position(), f.missing = in.ConsumeBool() ? IDC_FACTOR_PAIRWISE : IDC_FACTOR_LISTWISE;
+        f.number = value(), f.eigen = value(), f.iterations = value(), f.convergence = value();
+        f.print = position(), f.exit = in.ConsumeBool();
+        check(st::composeFactor(f, names(in)).body);
+        st::MdsSettings m;
+        m.shape = in.ConsumeBool() ? IDC_MDS_RECT : IDC_MDS_SQUARE, m.rows = value(), m.dimensions = value();
+        m.iterations = value(), m.convergence = value(), m.loss = IDC_MDS_KRUSKAL + in.ConsumeIntegralInRange(0, 2);
+        m.regression = position(), m.split = position(), m.saveKind = position(), m.weight = in.ConsumeBool();
+        check(st::composeMds(m, names(in)).body);
         break;
     }
     case 9: {
