@@ -37,7 +37,7 @@ bool deliverBlock(DialogView& view, const ProcedureBlock& block) {
     }
     std::string save;
     if (!block.saveFile.empty()) {
-        const std::optional<std::string> chosen = chooseSaveLine(view, block.saveFile, block.saveQualifier);
+        const std::optional<std::string> chosen = chooseSaveLine(view, block.saveFile, block.saveQualifier, block.saveUnasked);
         if (!chosen) return false;
         save = *chosen;
     }

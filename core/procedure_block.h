@@ -19,9 +19,10 @@ struct ProcedureBlock {
     std::string_view saveFile;   // proposed when "Save file" is checked; empty: the dialog saves nothing
     std::string saveQualifier;   // written after "SAVE '...'"
     Composition body;            // the lines after SAVE, or the refusal
+    bool saveUnasked = false;    // the file is saved though "Save file" is not ticked
 
     static ProcedureBlock refuse(std::string_view procedure, std::string_view message) {
-        return {procedure, {}, {}, Composition::refuse(message)};
+        return {procedure, {}, {}, Composition::refuse(message), false};
     }
 };
 

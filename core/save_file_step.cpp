@@ -19,8 +19,9 @@ std::string saveLine(std::string_view path, std::string_view qualifier) {
     return line.str();
 }
 
-std::optional<std::string> chooseSaveLine(DialogView& view, std::string_view defaultName, std::string_view qualifier) {
-    if (!view.isChecked(IDC_SAVEFILE)) return std::string();
+std::optional<std::string> chooseSaveLine(DialogView& view, std::string_view defaultName, std::string_view qualifier,
+                                          bool unasked) {
+    if (!unasked && !view.isChecked(IDC_SAVEFILE)) return std::string();
     std::string path(defaultName);
     if (!saveAFile(view.handle(), path)) return std::nullopt;
     return saveLine(savedFileName(), qualifier);

@@ -14,10 +14,11 @@ namespace kvs {
 // The SAVE line for a chosen path, with the procedure's qualifier after it.
 std::string saveLine(std::string_view path, std::string_view qualifier = {});
 
-// Nothing to save when the box is not ticked; else the chooser. Empty
-// optional when the user cancelled it: the OK is then refused.
+// Nothing to save when the box is not ticked (and the dialog does not save
+// unasked); else the chooser. Empty optional when the user cancelled it:
+// the OK is then refused.
 std::optional<std::string> chooseSaveLine(DialogView& view, std::string_view defaultName,
-                                          std::string_view qualifier = {});
+                                          std::string_view qualifier = {}, bool unasked = false);
 
 // The data dialogs' form: queues the SAVE line itself. False on a cancel.
 bool runSaveFileStep(DialogView& view, std::string_view defaultName);

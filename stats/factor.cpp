@@ -39,19 +39,6 @@ public:
         return ProcedureDialog::init(context);
     }
 
-    // The save step runs on "Save file"; a saving mode stands in for it
-    // while the OK is delivered, and the box is given back when it fails.
-    bool accept(DialogContext& context, int button) override {
-        DialogView& view = context.view;
-        FactorSettings chosen = working_;
-        chosen.saveMode = view.comboSelection(IDC_FACTOR_SAVE_MODE);
-        const bool byMode = !view.isChecked(IDC_SAVEFILE) && factorSavesByMode(chosen);
-        if (byMode) view.setChecked(IDC_SAVEFILE, true);
-        const bool accepted = ProcedureDialog::accept(context, button);
-        if (byMode && !accepted) view.setChecked(IDC_SAVEFILE, false);
-        return accepted;
-    }
-
 private:
     static FactorSettings& settings() {
         static FactorSettings remembered;

@@ -192,7 +192,8 @@ ProcedureBlock composeFactor(const FactorSettings& s, const Names& variables) {
     }
     lines.add(estimate);
     if (s.exit) lines.add(text::kExit);
-    return {text::kFactor, text::kFactorFile, {}, lines};
+    // A saving mode other than "None" saves even with "Save file" unticked.
+    return {text::kFactor, text::kFactorFile, {}, lines, factorSavesByMode(s)};
 }
 
 ProcedureBlock composeMds(const MdsSettings& s, const Names& variables) {
@@ -211,7 +212,7 @@ ProcedureBlock composeMds(const MdsSettings& s, const Names& variables) {
     appendOptionUnlessDefault(estimate, text::kMdsConverge, s.convergence, text::kDefaultMdsConverge);
     {
         const CommandText::Piece piece(estimate);
-        estimate.append(text::kLoss);
+        estimate.append(text::kMdsLoss);
         if (s.loss == IDC_MDS_GUTTMAN) estimate.append(text::kGuttman);
         else if (s.loss == IDC_MDS_YOUNG) estimate.append(text::kYoung);
         else estimate.append(text::kKruskalRegression).append(keywordAt(text::kMdsRegressions, s.regression));

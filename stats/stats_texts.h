@@ -451,7 +451,7 @@ inline constexpr std::string_view kMdsConverge = " CONVERGE=";
 inline constexpr std::string_view kDefaultMdsConverge = "0.005";
 inline constexpr std::string_view kWeight = " WEIGHT";
 inline constexpr std::string_view kSplit = " SPLIT=";
-inline constexpr std::string_view kLoss = " LOSS=";
+inline constexpr std::string_view kMdsLoss = " LOSS=";
 inline constexpr std::string_view kKruskalRegression = "KRUSKAL REGRESSION=";
 inline constexpr std::string_view kGuttman = "GUTTMAN";
 inline constexpr std::string_view kYoung = "YOUNG";
