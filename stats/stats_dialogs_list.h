@@ -49,5 +49,16 @@ DialogBehaviour& anovaHypothesisBehaviour();
 DialogBehaviour& nonlinBehaviour();
 DialogBehaviour& lossBehaviour();
 DialogBehaviour& survivalBehaviour();
+DialogBehaviour& spatialBehaviour();
+DialogBehaviour& posacBehaviour();
+DialogBehaviour& conjointBehaviour();
+DialogBehaviour& coranBehaviour();
+DialogBehaviour& setcorBehaviour();
+DialogBehaviour& permapBehaviour();
+DialogBehaviour& treesBehaviour();
+DialogBehaviour& signalBehaviour();
+DialogBehaviour& testatClassicalBehaviour();
+DialogBehaviour& testatLogisticBehaviour();
+DialogBehaviour& ramonaBehaviour();
 
 }  // namespace kvs::stats
