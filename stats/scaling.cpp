@@ -6,7 +6,7 @@
 #include "core/descriptor.h"
 #include "core/messages.h"
 #include "stats/line_endings.h"
-#include "stats/multivariate_composers.h"
+#include "stats/analysis_composers.h"
 #include "stats/procedure_dialog.h"
 #include "stats/stats_dialogs_list.h"
 #include "stats/stats_texts.h"

@@ -1,7 +1,7 @@
 // The MODEL line of the dialogs whose model is two lists of variables, the
 // right one optional.
 #include "stats/model_line.h"
-#include "stats/multivariate_composers.h"
+#include "stats/analysis_composers.h"
 #include "stats/stats_texts.h"
 
 namespace kvs::stats {

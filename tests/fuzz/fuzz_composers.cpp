@@ -23,7 +23,7 @@
 #include "stats/chart_composers.h"
 #include "stats/estimate_composers.h"
 #include "stats/model_composers.h"
-#include "stats/multivariate_composers.h"
+#include "stats/analysis_composers.h"
 #include "stats/series_composers.h"
 #include "stats/stats_composers.h"
 #include "tools/scenario/line_checks.h"

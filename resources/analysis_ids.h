@@ -1,8 +1,8 @@
 /* Control ids of Spatial Statistics, POSAC, Conjoint Analysis,
  * Correspondence Analysis, Set and Canonical Correlations, Perceptual
  * Mapping, Trees, Signal Detection, Test Item Analysis and RAMONA. */
-#ifndef KVS_MULTIVARIATE_IDS_H
-#define KVS_MULTIVARIATE_IDS_H
+#ifndef KVS_ANALYSIS_IDS_H
+#define KVS_ANALYSIS_IDS_H
 
 #include "common_ids.h"
 

@@ -6,14 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "stats/multivariate_composers.h"
+#include "stats/analysis_composers.h"
 
 namespace kvs::stats {
 namespace {
 
 using Lines = std::vector<std::string>;
 
-TEST(MultivariateComposers, SpatialAnalysesAndTheirFiles) {
+TEST(AnalysisComposers, SpatialAnalysesAndTheirFiles) {
     struct Row {
         int analysis;
         std::string verb;
@@ -39,7 +39,7 @@ TEST(MultivariateComposers, SpatialAnalysesAndTheirFiles) {
     EXPECT_EQ(composeSpatial({IDC_SPATIAL_SIMULATE}, {"Z"}, {"X"}).body.lines, (Lines{"MODEL Z = X", "SIMULATE"}));
 }
 
-TEST(MultivariateComposers, PosacAndConjointOptions) {
+TEST(AnalysisComposers, PosacAndConjointOptions) {
     PosacSettings p;
     EXPECT_EQ(composePosac(p, {"A", "B", "C"}).body.lines, (Lines{"MODEL A B C", "ESTIMATE"}));
     EXPECT_EQ(composePosac(p, {"A", "B", "C"}).saveFile, "POSAC.KVD");
@@ -69,7 +69,7 @@ TEST(MultivariateComposers, PosacAndConjointOptions) {
     EXPECT_EQ(composeConjoint(c, {"R"}, {}).body.refusal, "You must select independent variable(s).");
 }
 
-TEST(MultivariateComposers, CoranSetcorPermap) {
+TEST(AnalysisComposers, CoranSetcorPermap) {
     EXPECT_EQ(composeCoran({}, {"ROW"}, {"COL"}).body.lines, (Lines{"MODEL ROW = COL", "ESTIMATE"}));
     EXPECT_EQ(composeCoran({true}, {"A", "B", "C"}, {}).body.lines, (Lines{"MODEL A B C", "ESTIMATE / PAIRWISE"}));
     EXPECT_TRUE(composeCoran({}, {"A"}, {}).saveFile.empty());
@@ -103,7 +103,7 @@ TEST(MultivariateComposers, CoranSetcorPermap) {
     EXPECT_EQ(composePermap(m, {}, {}).body.refusal, "You must select variables.");
 }
 
-TEST(MultivariateComposers, TreesAndSignal) {
+TEST(AnalysisComposers, TreesAndSignal) {
     EXPECT_EQ(composeTrees({}, {"Y"}, {"A", "B"}).body.lines, (Lines{"MODEL Y = A+B", "ESTIMATE"}));
     EXPECT_EQ(composeTrees({true}, {"Y"}, {"A"}).body.lines, (Lines{"MODEL Y = A", "ESTIMATE / EXPAND"}));
     EXPECT_EQ(composeTrees({}, {}, {"A"}).body.refusal, "You must select variables.");
@@ -121,7 +121,7 @@ TEST(MultivariateComposers, TreesAndSignal) {
     EXPECT_TRUE(composeSignal(s, {"R"}, {"S"}).saveFile.empty());
 }
 
-TEST(MultivariateComposers, TestItemAnalysis) {
+TEST(AnalysisComposers, TestItemAnalysis) {
     TestatSettings t;
     EXPECT_EQ(composeTestat(295, t, {"I1", "I2"}).body.lines, (Lines{"MODEL I1 I2", "ESTIMATE / CLASS"}));
     EXPECT_EQ(composeTestat(297, t, {"I1", "I2"}).body.lines, (Lines{"MODEL I1 I2", "ESTIMATE / LOG1"}));
@@ -135,7 +135,7 @@ TEST(MultivariateComposers, TestItemAnalysis) {
     EXPECT_EQ(composeTestat(297, t, {}).body.refusal, "You must select variables.");
 }
 
-TEST(MultivariateComposers, Ramona) {
+TEST(AnalysisComposers, Ramona) {
     RamonaSettings r;
     EXPECT_EQ(composeRamona(r, {"A", "B"}).body.refusal, "You must provide more input.");
     r.paths = "  \r\n";

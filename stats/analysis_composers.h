@@ -9,7 +9,7 @@
 
 #include "core/join_names.h"
 #include "core/procedure_block.h"
-#include "resources/multivariate_ids.h"
+#include "resources/analysis_ids.h"
 
 namespace kvs::stats {
 
