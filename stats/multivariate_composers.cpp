@@ -115,7 +115,7 @@ ProcedureBlock composeCorrelations(const CorrSettings& s, const Names& variables
         line.append(text::kWith);
         joinNames(with, line, ' ');
     }
-    if (s.missing == IDC_CORR_PAIRWISE) line.append(text::kPairwise);
+    if (s.missing == IDC_CORR_PAIRWISE) line.append(text::kCorrPairwise);
     return {text::kCorr, text::kCorrFile, {}, Composition().add(line)};
 }
 

@@ -58,5 +58,16 @@ DialogBehaviour& kmeansBehaviour();
 DialogBehaviour& addtreeBehaviour();
 DialogBehaviour& factorBehaviour();
 DialogBehaviour& mdsBehaviour();
+DialogBehaviour& spatialBehaviour();
+DialogBehaviour& posacBehaviour();
+DialogBehaviour& conjointBehaviour();
+DialogBehaviour& coranBehaviour();
+DialogBehaviour& setcorBehaviour();
+DialogBehaviour& permapBehaviour();
+DialogBehaviour& treesBehaviour();
+DialogBehaviour& signalBehaviour();
+DialogBehaviour& testatClassicalBehaviour();
+DialogBehaviour& testatLogisticBehaviour();
+DialogBehaviour& ramonaBehaviour();
 
 }  // namespace kvs::stats

@@ -315,6 +315,92 @@ inline constexpr std::string_view kSpecifyCovariates = "You must specify Time De
 inline constexpr std::string_view kSelectCovariates = "You must select Time Dependent Covariates for each Covariate.";
 inline constexpr std::string_view kMaximumTimeMissing = "You must specify Maximum time.";
 
+// Spatial statistics, POSAC, conjoint, correspondence analysis, set
+// correlations, perceptual mapping, trees, signal detection, test items and
+// RAMONA.
+inline constexpr std::string_view kSelectPointCoordinates =
+    "You must select at least X and Y variables for Point calculations.";
+inline constexpr std::string_view kPosacVariables = "You must select at least 3 variables for POSAC.";
+inline constexpr std::string_view kNoIndependentsForBiplot =
+    "You must not select independent variable(s) for Biplot or MDPREF.";
+inline constexpr std::string_view kSpatial = "SPATIAL";
+inline constexpr std::string_view kVarioFile = "VARIO.KVD";
+inline constexpr std::string_view kKrigingFile = "KRIGING.KVD";
+inline constexpr std::string_view kSimulateFile = "SIMULATE.KVD";
+inline constexpr std::string_view kPoint = "POINT";
+inline constexpr std::string_view kVario = "VARIO /";
+inline constexpr std::string_view kKrig = "KRIG /";
+inline constexpr std::string_view kSimulate = "SIMULATE /";
+inline constexpr std::string_view kPosac = "POSAC";
+inline constexpr std::string_view kPosacFile = "POSAC.KVD";
+inline constexpr std::string_view kConjoint = "CONJOINT";
+inline constexpr std::string_view kConjointFile = "CONJOINT.KVD";
+inline constexpr std::string_view kIterationsLong = " ITERATIONS=";
+inline constexpr std::string_view kConvergenceLong = " CONVERGENCE=";
+inline constexpr std::string_view kDefaultScalingConvergence = "0.00001";
+inline constexpr std::string_view kPolarity = " POLARITY=";
+inline constexpr std::string_view kPositive = "POSITIVE";
+inline constexpr std::string_view kNegative = "NEGATIVE";
+inline constexpr std::string_view kStressLoss = " LOSS=STRESS";
+inline constexpr std::string_view kRegression = " REGRESSION=";
+inline constexpr std::string_view kMonotonic = "MONOTONIC";
+inline constexpr std::string_view kLinearRegression = "LINEAR";
+inline constexpr std::string_view kPowerRegression = "POWER";
+inline constexpr std::string_view kCoran = "CORAN";
+inline constexpr std::string_view kPairwise = "/ PAIRWISE";
+inline constexpr std::string_view kSetcor = "SETCOR";
+inline constexpr std::string_view kError = "ERROR";
+inline constexpr std::string_view kPermap = "PERMAP";
+inline constexpr std::string_view kPermapMethod = "ESTIMATE / METHOD=";
+inline constexpr std::string_view kNegativePolarity = " POLARITY=NEGATIVE";
+inline constexpr std::string_view kDimension = " DIMENSION=";
+inline constexpr std::string_view kStandardize = " STANDARDIZE";
+// The perceptual-mapping methods, in the order the method box shows them;
+// the first two take no independent variables.
+struct MappingMethod {
+    std::string_view entry;
+    std::string_view keyword;
+};
+inline constexpr MappingMethod kMappingMethods[] = {
+    {"Biplot", "BIPLOT"},       {"MDPREF", "MDPREF"},        {"Vector model", "VECTOR"},
+    {"Circle model", "CIRCLE"}, {"Ellipse model", "ELLIPSE"},
+};
+inline constexpr std::string_view kTrees = "TREES";
+inline constexpr std::string_view kExpand = "/ EXPAND";
+inline constexpr std::string_view kSignal = "SIGNAL";
+inline constexpr std::string_view kDefaultSignalConverge = "0.001";
+inline constexpr std::string_view kM0 = " M0=";
+inline constexpr std::string_view kDefaultM0 = "1.814";
+inline constexpr std::string_view kMean = " MEAN=";
+inline constexpr std::string_view kStartValues = " START";
+inline constexpr std::string_view kDf = " DF=";
+inline constexpr std::string_view kTestat = "TESTAT";
+inline constexpr std::string_view kTestatFile = "TESTAT.KVD";
+inline constexpr std::string_view kKey = "KEY";
+inline constexpr std::string_view kLog1 = "/ LOG1";
+inline constexpr std::string_view kLog2 = "/ LOG2";
+inline constexpr std::string_view kSteps = " STEPS=";
+inline constexpr std::string_view kDefaultTestatConverge = "0.005";
+inline constexpr std::string_view kLconverge = " LCONVERGE=";
+inline constexpr std::string_view kClassical = "ESTIMATE / CLASS";
+inline constexpr std::string_view kHalf = " HALF";
+inline constexpr std::string_view kRamona = "RAMONA";
+inline constexpr std::string_view kManifest = "MANIFEST";
+inline constexpr std::string_view kLatent = "LATENT";
+inline constexpr std::string_view kPathSeparator = ", ";
+inline constexpr std::string_view kDispersion = " DISP=";
+inline constexpr std::string_view kCovariances = "COVA";
+inline constexpr std::string_view kCorrelations = "CORR";
+inline constexpr std::string_view kRough = "ROUGH";
+inline constexpr std::string_view kClose = "CLOSE";
+inline constexpr std::string_view kMethod = " METHOD=";
+inline constexpr std::string_view kAdfGramian = "ADFG";
+inline constexpr std::string_view kAdfUnbiased = "ADFU";
+inline constexpr std::string_view kNcases = " NCASES=";
+inline constexpr std::string_view kConvg = " CONVG=";
+inline constexpr std::string_view kDefaultConvg = "0.0001";
+inline constexpr std::string_view kConfi = " CONFI=";
+
 }  // namespace kvs::stats::text
 
 // Basic Statistics, Cronbach, Stem, Correlations, clustering, Factor
@@ -359,7 +445,7 @@ inline constexpr std::string_view kStatsSaveKinds[] = {"Statistics", "Aggregate 
 // Correlations (204).
 inline constexpr std::string_view kCorr = "CORR";
 inline constexpr std::string_view kCorrFile = "CORR.KVD";
-inline constexpr std::string_view kPairwise = " / PAIRWISE";
+inline constexpr std::string_view kCorrPairwise = " / PAIRWISE";
 inline constexpr std::string_view kWith = " * ";
 inline constexpr Choice kCorrMeasures[] = {
     {"Pearson", "PEARSON"},

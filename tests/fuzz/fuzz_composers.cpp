@@ -23,6 +23,7 @@
 #include "stats/chart_composers.h"
 #include "stats/estimate_composers.h"
 #include "stats/model_composers.h"
+#include "stats/analysis_composers.h"
 #include "stats/multivariate_composers.h"
 #include "stats/series_composers.h"
 #include "stats/stats_composers.h"
@@ -118,7 +119,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 20)) {
+    switch (in.ConsumeIntegralInRange(0, 21)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -323,6 +324,32 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         m.iterations = value(), m.convergence = value(), m.loss = IDC_MDS_KRUSKAL + in.ConsumeIntegralInRange(0, 2);
         m.regression = position(), m.split = position(), m.saveKind = position(), m.weight = in.ConsumeBool();
         check(st::composeMds(m, names(in)).body);
+        break;
+    }
+    case 21: {
+        // Spatial, POSAC, Conjoint, CORAN, SETCOR, PERMAP, Trees, Signal, TESTAT, RAMONA.
+        namespace st = kvs::stats;
+        const auto value = [&in] { return in.ConsumeRandomLengthString(200); };
+        const kvs::Names left = names(in), right = names(in), third = names(in);
+        check(st::composeSpatial({in.ConsumeIntegralInRange(IDC_SPATIAL_VARIO - 1, IDC_SPATIAL_POINT + 1)}, left, right).body);
+        check(st::composePosac({value(), value()}, left).body);
+        check(st::composeConjoint({value(), value(), in.ConsumeIntegralInRange(IDC_CONJOINT_POSITIVE - 1, IDC_CONJOINT_NEGATIVE + 1),
+                                   in.ConsumeIntegralInRange(IDC_CONJOINT_MONOTONIC - 1, IDC_CONJOINT_POWER + 1), in.ConsumeBool()},
+                                  left, right).body);
+        check(st::composeCoran({in.ConsumeBool()}, left, right).body);
+        check(st::composeSetcor(left, right, third).body);
+        check(st::composePermap({in.ConsumeIntegralInRange(-1, 6), in.ConsumeBool(), value(), in.ConsumeBool()}, left, right).body);
+        check(st::composeTrees({in.ConsumeBool()}, left, right).body);
+        check(st::composeSignal({value(), value(), value(), value(), value(), in.ConsumeBool()}, left, right).body);
+        const st::TestatSettings t{in.ConsumeRandomLengthString(2000), in.ConsumeBool(),
+                                   in.ConsumeBool() ? IDC_TESTAT_LOG1 : IDC_TESTAT_LOG2, value(), value(), value(), value()};
+        check(st::composeTestat(in.ConsumeBool() ? 295 : 297, t, left).body);
+        st::RamonaSettings r;
+        r.latent = value(), r.paths = in.ConsumeRandomLengthString(20000);
+        r.dispersion = in.ConsumeIntegralInRange(IDC_RAMONA_COVA, IDC_RAMONA_CORR);
+        r.method = in.ConsumeIntegralInRange(IDC_RAMONA_ML - 1, IDC_RAMONA_ADFU + 1);
+        r.cases = value(), r.iterations = value(), r.convergence = value(), r.confidence = value();
+        check(st::composeRamona(r, left).body);
         break;
     }
     case 9: {
