@@ -49,5 +49,12 @@ DialogBehaviour& anovaHypothesisBehaviour();
 DialogBehaviour& nonlinBehaviour();
 DialogBehaviour& lossBehaviour();
 DialogBehaviour& survivalBehaviour();
+DialogBehaviour& friedmanBehaviour();
+DialogBehaviour& twoSampleKsBehaviour();
+DialogBehaviour& kruskalWallisBehaviour();
+DialogBehaviour& signTestBehaviour();
+DialogBehaviour& runsTestBehaviour();
+DialogBehaviour& wilcoxonBehaviour();
+DialogBehaviour& oneSampleKsBehaviour();
 
 }  // namespace kvs::stats

@@ -315,4 +315,26 @@ inline constexpr std::string_view kSpecifyCovariates = "You must specify Time De
 inline constexpr std::string_view kSelectCovariates = "You must select Time Dependent Covariates for each Covariate.";
 inline constexpr std::string_view kMaximumTimeMissing = "You must specify Maximum time.";
 
+// Nonparametric tests.
+inline constexpr std::string_view kNpar = "NPAR";
+inline constexpr std::string_view kNparFile = "NPAR.KVD";
+inline constexpr std::string_view kFriedman = "FRIEDMAN ";
+inline constexpr std::string_view kKruskal = "KRUSKAL ";
+inline constexpr std::string_view kSign = "SIGN ";
+inline constexpr std::string_view kRuns = "RUNS ";
+inline constexpr std::string_view kWilcoxon = "WILCOXON ";
+inline constexpr std::string_view kKolmogorov = "KS ";
+inline constexpr std::string_view kCut = " /CUT=";
+inline constexpr std::string_view kNormal = " / NORMAL";
+inline constexpr std::string_view kUniform = " / UNIFORM";
+inline constexpr std::string_view kExponential = " / EXPONENTIAL";
+inline constexpr std::string_view kLilliefors = " / LILLIEFORS";
+inline constexpr std::string_view kParameters = "=";
+inline constexpr std::string_view kParameterSeparator = ",";
+inline constexpr std::string_view kDefaultMean = "0";
+inline constexpr std::string_view kDefaultSd = "1";
+inline constexpr std::string_view kDefaultLower = "0";
+inline constexpr std::string_view kDefaultUpper = "1";
+inline constexpr std::string_view kDefaultScale = "1";
+
 }  // namespace kvs::stats::text

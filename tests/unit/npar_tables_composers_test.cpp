@@ -1,0 +1,95 @@
+// The builders of the nonparametric tests, the tables, the log-linear model
+// and the experimental designs, row by row: their lines, SAVE files and
+// qualifiers, and refusals.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "stats/npar_composers.h"
+
+namespace kvs::stats {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+TEST(NparComposers, EachTestWritesItsVerbAndLists) {
+    const NparSettings s;
+    const struct {
+        std::uint16_t id;
+        Names variables, grouping;
+        std::string line;
+    } rows[] = {
+        {226, {"A", "B", "C"}, {}, "FRIEDMAN A B C"},
+        {227, {"A", "B"}, {}, "KS A B"},
+        {227, {"A"}, {"G"}, "KS A * G"},
+        {228, {"A", "B"}, {"G"}, "KRUSKAL A B * G"},
+        {229, {"A", "B"}, {}, "SIGN A B"},
+        {230, {"A"}, {}, "RUNS A"},
+        {231, {"A", "B"}, {}, "WILCOXON A B"},
+        {268, {"A"}, {}, "KS A / NORMAL"},
+        {268, {"A", "B"}, {"G"}, "KS A B * G / NORMAL"},
+    };
+    for (const auto& row : rows) {
+        const ProcedureBlock block = composeNpar(row.id, s, row.variables, row.grouping);
+        EXPECT_EQ(block.procedure, "NPAR") << row.id;
+        EXPECT_EQ(block.saveFile, "NPAR.KVD") << row.id;
+        EXPECT_TRUE(block.saveQualifier.empty()) << row.id;
+        EXPECT_EQ(block.body.lines, Lines{row.line}) << row.id;
+    }
+}
+
+TEST(NparComposers, Refusals) {
+    const NparSettings s;
+    for (std::uint16_t id : {226, 227, 228, 229, 230, 231, 268})
+        EXPECT_EQ(composeNpar(id, s, {}, {"G"}).body.refusal, "You must select variables.") << id;
+    // Related-variable tests compare two or more; the two-sample test needs
+    // two variables or a grouping variable; Kruskal-Wallis needs its groups.
+    for (std::uint16_t id : {226, 229, 231})
+        EXPECT_EQ(composeNpar(id, s, {"A"}, {}).body.refusal, "You must provide more input.") << id;
+    EXPECT_EQ(composeNpar(227, s, {"A"}, {}).body.refusal, "You must provide more input.");
+    EXPECT_EQ(composeNpar(228, s, {"A", "B"}, {}).body.refusal, "You must select category/factor variables.");
+    EXPECT_FALSE(composeNpar(230, s, {"A"}, {}).body.refused());
+}
+
+TEST(NparComposers, CutPointAndDistributions) {
+    NparSettings s;
+    s.cut = "2.5";
+    EXPECT_EQ(composeNpar(230, s, {"A", "B"}, {}).body.lines, Lines{"RUNS A B /CUT=2.5"});
+    s.cut = " ";
+    EXPECT_EQ(composeNpar(230, s, {"A"}, {}).body.lines, Lines{"RUNS A"});
+
+    // A distribution's keyword stands alone while its parameters are the
+    // defaults, compared exactly.
+    const struct {
+        int distribution;
+        std::string mean, sd, lower, upper, scale, tail;
+    } rows[] = {
+        {IDC_KS_NORMAL, "0", "1", "", "", "", " / NORMAL"},
+        {IDC_KS_NORMAL, "10", "1", "", "", "", " / NORMAL=10,1"},
+        {IDC_KS_NORMAL, "0", "1.0", "", "", "", " / NORMAL=0,1.0"},
+        {IDC_KS_UNIFORM, "", "", "0", "1", "", " / UNIFORM"},
+        {IDC_KS_UNIFORM, "", "", "-1", "1", "", " / UNIFORM=-1,1"},
+        {IDC_KS_EXPONENTIAL, "", "", "", "", "1", " / EXPONENTIAL"},
+        {IDC_KS_EXPONENTIAL, "", "", "", "", "3", " / EXPONENTIAL=3"},
+        {IDC_KS_LILLIEFORS, "", "", "", "", "", " / LILLIEFORS"},
+        {0, "0", "1", "", "", "", " / NORMAL"},
+    };
+    for (const auto& row : rows) {
+        NparSettings d;
+        d.distribution = row.distribution;
+        d.mean = row.mean, d.sd = row.sd, d.lower = row.lower, d.upper = row.upper, d.scale = row.scale;
+        EXPECT_EQ(composeNpar(268, d, {"X"}, {}).body.lines, Lines{"KS X" + row.tail}) << row.tail;
+    }
+    NparSettings blank;
+    blank.sd = "";
+    EXPECT_EQ(composeNpar(268, blank, {"X"}, {}).body.refusal, "You must provide more input.");
+    blank.distribution = IDC_KS_UNIFORM;
+    blank.upper = "  ";
+    EXPECT_EQ(composeNpar(268, blank, {"X"}, {}).body.refusal, "You must provide more input.");
+    blank.distribution = IDC_KS_LILLIEFORS;
+    EXPECT_FALSE(composeNpar(268, blank, {"X"}, {}).body.refused());
+}
+
+}  // namespace
+}  // namespace kvs::stats
