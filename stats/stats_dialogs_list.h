@@ -56,5 +56,8 @@ DialogBehaviour& signTestBehaviour();
 DialogBehaviour& runsTestBehaviour();
 DialogBehaviour& wilcoxonBehaviour();
 DialogBehaviour& oneSampleKsBehaviour();
+DialogBehaviour& oneWayTablesBehaviour();
+DialogBehaviour& twoWayTablesBehaviour();
+DialogBehaviour& multiwayTablesBehaviour();
 
 }  // namespace kvs::stats

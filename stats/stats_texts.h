@@ -337,4 +337,21 @@ inline constexpr std::string_view kDefaultLower = "0";
 inline constexpr std::string_view kDefaultUpper = "1";
 inline constexpr std::string_view kDefaultScale = "1";
 
+// Tables.
+inline constexpr std::string_view kXtab = "XTAB";
+inline constexpr std::string_view kTablesFile = "TABLES.KVD";
+inline constexpr std::string_view kTabulate = "TABULATE ";
+inline constexpr std::string_view kCrossedBy = " * ";
+inline constexpr std::string_view kPrint = "PRINT";
+inline constexpr std::string_view kPrintOnly = " NONE/";
+// The statistics a table prints, by check box (IDC_XTAB_FREQ on).
+inline constexpr std::string_view kTablePrints[] = {
+    " FREQ", " PERCENT", " ROWP", " COLP", " EXPECT", " DEVIATE", " STANDARD", " CHISQ",
+};
+inline constexpr std::string_view kListLayout = " LIST";
+inline constexpr std::string_view kMissing = " MISS";
+inline constexpr std::string_view kMantel = " MANTEL";
+inline constexpr std::string_view kConfi = " CONFI=";
+inline constexpr std::string_view kDefaultConfi = "0.95";
+
 }  // namespace kvs::stats::text

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "stats/npar_composers.h"
+#include "stats/tables_composers.h"
 
 namespace kvs::stats {
 namespace {
@@ -89,6 +90,56 @@ TEST(NparComposers, CutPointAndDistributions) {
     EXPECT_EQ(composeNpar(268, blank, {"X"}, {}).body.refusal, "You must provide more input.");
     blank.distribution = IDC_KS_LILLIEFORS;
     EXPECT_FALSE(composeNpar(268, blank, {"X"}, {}).body.refused());
+}
+
+TEST(TablesComposers, PrintLineOnlyWhenTheStatisticsDiffer) {
+    TableSettings s;
+    ProcedureBlock block = composeTables(266, s, {"A", "B"}, {});
+    EXPECT_EQ(block.procedure, "XTAB");
+    EXPECT_EQ(block.saveFile, "TABLES.KVD");
+    EXPECT_EQ(block.body.lines, Lines{"TABULATE A B"});
+    s.percents = true;
+    EXPECT_EQ(composeTables(266, s, {"A"}, {}).body.lines, (Lines{"PRINT NONE/ FREQ PERCENT", "TABULATE A"}));
+    s = {};
+    s.counts = false;
+    EXPECT_EQ(composeTables(266, s, {"A"}, {}).body.lines, (Lines{"PRINT NONE", "TABULATE A"}));
+    s = {};
+    s.counts = false, s.percents = true, s.rowPercents = true, s.columnPercents = true, s.expected = true;
+    s.deviates = true, s.standardized = true, s.chiSquare = true;
+    EXPECT_EQ(composeTables(267, s, {"R"}, {"C"}).body.lines,
+              (Lines{"PRINT NONE/ PERCENT ROWP COLP EXPECT DEVIATE STANDARD CHISQ", "TABULATE R * C"}));
+}
+
+TEST(TablesComposers, TableShapesAndOptions) {
+    TableSettings s;
+    EXPECT_EQ(composeTables(267, s, {"R1", "R2"}, {"C1", "C2"}).body.lines, Lines{"TABULATE R1 R2 * C1 C2"});
+    EXPECT_EQ(composeTables(253, s, {"A", "B", "C"}, {}).body.lines, Lines{"TABULATE A*B*C"});
+    s.listLayout = true;
+    EXPECT_EQ(composeTables(266, s, {"A"}, {}).body.lines, Lines{"TABULATE A / LIST"});
+    s.missing = true;
+    EXPECT_EQ(composeTables(266, s, {"A"}, {}).body.lines, Lines{"TABULATE A / LIST MISS"});
+    s.listLayout = false;
+    EXPECT_EQ(composeTables(267, s, {"A"}, {"B"}).body.lines, Lines{"TABULATE A * B / MISS"});
+    // The Mantel-Haenszel test and its confidence belong to multiway tables;
+    // the confidence is written only with the test and when not "0.95".
+    s.missing = false, s.mantel = true, s.confidence = "0.99";
+    EXPECT_EQ(composeTables(267, s, {"A"}, {"B"}).body.lines, Lines{"TABULATE A * B"});
+    EXPECT_EQ(composeTables(253, s, {"A", "B", "C"}, {}).body.lines, Lines{"TABULATE A*B*C / MANTEL CONFI=0.99"});
+    s.confidence = "0.95";
+    EXPECT_EQ(composeTables(253, s, {"A", "B"}, {}).body.lines, Lines{"TABULATE A*B / MANTEL"});
+    s.confidence = ".95";
+    EXPECT_EQ(composeTables(253, s, {"A", "B"}, {}).body.lines, Lines{"TABULATE A*B / MANTEL CONFI=.95"});
+    s.mantel = false;
+    EXPECT_EQ(composeTables(253, s, {"A", "B"}, {}).body.lines, Lines{"TABULATE A*B"});
+}
+
+TEST(TablesComposers, Refusals) {
+    const TableSettings s;
+    EXPECT_EQ(composeTables(266, s, {}, {}).body.refusal, "You must select variables.");
+    EXPECT_EQ(composeTables(267, s, {"A"}, {}).body.refusal, "You must select variables.");
+    EXPECT_EQ(composeTables(267, s, {}, {"B"}).body.refusal, "You must select variables.");
+    EXPECT_EQ(composeTables(253, s, {}, {}).body.refusal, "You must select variables.");
+    EXPECT_EQ(composeTables(253, s, {"A"}, {}).body.refusal, "You must provide more input.");
 }
 
 }  // namespace
