@@ -59,5 +59,7 @@ DialogBehaviour& oneSampleKsBehaviour();
 DialogBehaviour& oneWayTablesBehaviour();
 DialogBehaviour& twoWayTablesBehaviour();
 DialogBehaviour& multiwayTablesBehaviour();
+DialogBehaviour& loglinBehaviour();
+DialogBehaviour& loglinTabulateBehaviour();
 
 }  // namespace kvs::stats

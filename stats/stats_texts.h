@@ -354,4 +354,20 @@ inline constexpr std::string_view kMantel = " MANTEL";
 inline constexpr std::string_view kConfi = " CONFI=";
 inline constexpr std::string_view kDefaultConfi = "0.95";
 
+// Log-linear models.
+inline constexpr std::string_view kLoglin = "LOGLIN";
+inline constexpr std::string_view kLoglinFile = "LOGLIN.KVD";
+inline constexpr std::string_view kLambdasQualifier = " / LAMBDAS";
+inline constexpr std::string_view kEstimatesQualifier = " / ESTIMATES";
+inline constexpr std::string_view kCrossed = "*";
+inline constexpr std::string_view kLoglinPrintNone = "PRINT NONE/";
+// What the model prints, by check box (IDC_LOGLIN_OBSERVED on).
+inline constexpr std::string_view kLoglinPrints[] = {" OBSERVED", " EXPECT", " STANDARD", " LAMBDA", " CHISQ"};
+inline constexpr std::string_view kDefaultConv = "0.0001";
+inline constexpr std::string_view kLconv = " LCONV=";
+inline constexpr std::string_view kDefaultLconv = "0.000001";
+inline constexpr std::string_view kDefaultLoglinTol = "0.001";
+inline constexpr std::string_view kHalf = " HALF=";
+inline constexpr std::string_view kDelta = " DELTA=";
+
 }  // namespace kvs::stats::text

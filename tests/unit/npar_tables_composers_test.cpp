@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "stats/loglin_composers.h"
 #include "stats/npar_composers.h"
 #include "stats/tables_composers.h"
 
@@ -140,6 +141,61 @@ TEST(TablesComposers, Refusals) {
     EXPECT_EQ(composeTables(267, s, {}, {"B"}).body.refusal, "You must select variables.");
     EXPECT_EQ(composeTables(253, s, {}, {}).body.refusal, "You must select variables.");
     EXPECT_EQ(composeTables(253, s, {"A"}, {}).body.refusal, "You must provide more input.");
+}
+
+TEST(LoglinComposers, ModelPrintEstimationAndSaveQualifier) {
+    LoglinSettings s;
+    ProcedureBlock block = composeLoglin(s, {"A", "B", "C"});
+    EXPECT_EQ(block.procedure, "LOGLIN");
+    EXPECT_EQ(block.saveFile, "LOGLIN.KVD");
+    EXPECT_EQ(block.saveQualifier, " / ESTIMATES");
+    EXPECT_EQ(block.body.lines, (Lines{"MODEL A*B*C = A+B+C", "ESTIMATE"}));
+    s.saved = IDC_LOGLIN_LAMBDAS;
+    s.terms = "  A*B+C ";
+    s.expected = true;
+    block = composeLoglin(s, {"A", "B", "C"});
+    EXPECT_EQ(block.saveQualifier, " / LAMBDAS");
+    EXPECT_EQ(block.body.lines, (Lines{"PRINT NONE/ EXPECT LAMBDA CHISQ", "MODEL A*B*C = A*B+C", "ESTIMATE"}));
+    s = {};
+    s.lambdas = false, s.chiSquare = false;
+    EXPECT_EQ(composeLoglin(s, {"A"}).body.lines, (Lines{"PRINT NONE", "MODEL A = A", "ESTIMATE"}));
+    EXPECT_EQ(composeLoglin({}, {}).body.refusal, "You must select variables.");
+}
+
+TEST(LoglinComposers, EstimationValuesUnlessDefault) {
+    const struct {
+        std::string LoglinSettings::*field;
+        std::string value, option;
+    } rows[] = {
+        {&LoglinSettings::convergence, "0.0001", ""},
+        {&LoglinSettings::convergence, "1e-4", " / CONV=1e-4"},
+        {&LoglinSettings::likelihood, "0.000001", ""},
+        {&LoglinSettings::likelihood, "0.00001", " / LCONV=0.00001"},
+        {&LoglinSettings::tolerance, "0.001", ""},
+        {&LoglinSettings::tolerance, ".001", " / TOL=.001"},
+        {&LoglinSettings::iterations, "", ""},
+        {&LoglinSettings::iterations, "50", " / ITER=50"},
+        {&LoglinSettings::halvings, "5", " / HALF=5"},
+        {&LoglinSettings::delta, "0.5", " / DELTA=0.5"},
+    };
+    for (const auto& row : rows) {
+        LoglinSettings s;
+        s.*row.field = row.value;
+        EXPECT_EQ(composeLoglin(s, {"A"}).body.lines.back(), "ESTIMATE" + row.option) << row.value;
+    }
+    LoglinSettings all;
+    all.convergence = "0.01", all.likelihood = "0.01", all.tolerance = "0.01", all.iterations = "9";
+    all.halvings = "2", all.delta = "0";
+    EXPECT_EQ(composeLoglin(all, {"A"}).body.lines.back(),
+              "ESTIMATE / CONV=0.01 LCONV=0.01 TOL=0.01 ITER=9 HALF=2 DELTA=0");
+}
+
+TEST(LoglinComposers, Tabulate) {
+    const ProcedureBlock block = composeLoglinTabulate({"A", "B"});
+    EXPECT_EQ(block.procedure, "LOGLIN");
+    EXPECT_TRUE(block.saveFile.empty());
+    EXPECT_EQ(block.body.lines, Lines{"TABULATE A*B"});
+    EXPECT_EQ(composeLoglinTabulate({}).body.refusal, "You must select variables.");
 }
 
 }  // namespace
