@@ -66,7 +66,7 @@ constexpr DispatchRow kRows[] = {
     dialogRow(Family::Statistics, 278, "Cusum", "Cusum", Launch::Standard, 1, 256, 0, 1, 2).behaving(cusumBehaviour),
     dialogRow(Family::Statistics, 279, "Tsq", "TSQ", Launch::Standard, 1, 256, 0, 1, 2).behaving(tsqBehaviour),
     dialogRow(Family::Statistics, 280, "Pca", "Process Control Analysis", Launch::Standard, 1, 256, 0, 1, 1).behaving(pcaBehaviour),
-    dialogRow(Family::Statistics, 281, "ExperimentalDesign", "Design of Experiments", Launch::Standard, 1, 256, 0, 0, 0).flagged(kMarkerStartsUnset),
+    dialogRow(Family::Statistics, 281, "ExperimentalDesign", "Design of Experiments", Launch::Standard, 1, 256, 0, 0, 0).flagged(kMarkerStartsUnset).behaving(designBehaviour),
     dialogRow(Family::Statistics, 282, "LoglinTabulate", "Loglinear Model: Tabulate", Launch::Standard, 1, 256, 0, 0, 0).behaving(loglinTabulateBehaviour),
     dialogRow(Family::Statistics, 283, "Coran", "Correspondence Analysis", Launch::Graph, 1, 256, 256, 0, 0),
     dialogRow(Family::Statistics, 284, "SetCor", "Set and Canonical Correlations", Launch::Graph, 2, 256, 256, 0, 0),

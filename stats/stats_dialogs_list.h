@@ -61,5 +61,6 @@ DialogBehaviour& twoWayTablesBehaviour();
 DialogBehaviour& multiwayTablesBehaviour();
 DialogBehaviour& loglinBehaviour();
 DialogBehaviour& loglinTabulateBehaviour();
+DialogBehaviour& designBehaviour();
 
 }  // namespace kvs::stats

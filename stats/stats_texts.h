@@ -370,4 +370,24 @@ inline constexpr std::string_view kDefaultLoglinTol = "0.001";
 inline constexpr std::string_view kHalf = " HALF=";
 inline constexpr std::string_view kDelta = " DELTA=";
 
+// Design of Experiments.
+inline constexpr std::string_view kDesign = "DESIGN";
+inline constexpr std::string_view kDesignFile = "XDESIGN.KVD";
+// The verb of each design, by radio button (IDC_DOE_FULL on).
+inline constexpr std::string_view kDesignVerbs[] = {"FACTORIAL", "FACTORIAL", "LATIN", "PLACKETT", "BOXBEHNKEN", "TAGUCHI"};
+inline constexpr std::string_view kLevels = " LEVELS=";
+inline constexpr std::string_view kDefaultLevels = "2";
+inline constexpr std::string_view kFactors = " FACTORS=";
+inline constexpr std::string_view kRunCount = " RUNS=";
+inline constexpr std::string_view kReplications = " REPS=";
+inline constexpr std::string_view kDefaultReplications = "1";
+inline constexpr std::string_view kDesignType = " TYPE=";
+inline constexpr std::string_view kLetters = " LETTERS";
+inline constexpr std::string_view kSquares = " SQUARES";
+inline constexpr std::string_view kRandomize = " RAND";
+inline constexpr std::string_view kBlock = " BLOCK";
+// The Taguchi arrays the Array box offers, in order.
+inline constexpr std::string_view kTaguchiArrays[] = {"L4",  "L8",  "L9",  "L12", "L16", "L18", "L25",
+                                                      "L27", "L32", "L36", "L50", "L54", "L64", "L81"};
+
 }  // namespace kvs::stats::text

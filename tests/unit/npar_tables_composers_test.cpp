@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "stats/design_composers.h"
 #include "stats/loglin_composers.h"
 #include "stats/npar_composers.h"
 #include "stats/tables_composers.h"
@@ -196,6 +197,63 @@ TEST(LoglinComposers, Tabulate) {
     EXPECT_TRUE(block.saveFile.empty());
     EXPECT_EQ(block.body.lines, Lines{"TABULATE A*B"});
     EXPECT_EQ(composeLoglinTabulate({}).body.refusal, "You must select variables.");
+}
+
+TEST(DesignComposers, EachDesignAndItsSizes) {
+    const struct {
+        int design;
+        std::string factors, levels, runs;
+        std::string line;
+    } rows[] = {
+        {IDC_DOE_FULL, "3", "2", "", "FACTORIAL / FACTORS=3"},
+        {IDC_DOE_FULL, "3", "3", "8", "FACTORIAL / FACTORS=3 LEVELS=3"},
+        {IDC_DOE_FULL, "3", "", "", "FACTORIAL / FACTORS=3"},
+        {IDC_DOE_FRACTIONAL, "5", "2", "16", "FACTORIAL / FACTORS=5 RUNS=16"},
+        {IDC_DOE_LATIN, "5", "4", "9", "LATIN / LEVELS=4"},
+        {IDC_DOE_LATIN, "", "2", "", "LATIN / LEVELS=2"},
+        {IDC_DOE_PLACKETT, "", "2", "12", "PLACKETT / RUNS=12"},
+        {IDC_DOE_PLACKETT, "7", "2", "12", "PLACKETT / FACTORS=7 RUNS=12"},
+        {IDC_DOE_BOX, "3", "3", "5", "BOXBEHNKEN / FACTORS=3"},
+        {IDC_DOE_TAGUCHI, "3", "3", "5", "TAGUCHI / TYPE=L4"},
+        {0, "2", "2", "", "FACTORIAL / FACTORS=2"},
+    };
+    for (const auto& row : rows) {
+        DesignSettings s;
+        s.design = row.design, s.factors = row.factors, s.levels = row.levels, s.runs = row.runs;
+        const ProcedureBlock block = composeDesign(s);
+        EXPECT_EQ(block.procedure, "DESIGN");
+        EXPECT_EQ(block.saveFile, "XDESIGN.KVD");
+        EXPECT_EQ(block.body.lines, Lines{row.line}) << row.line;
+    }
+}
+
+TEST(DesignComposers, OptionsArraysAndRefusals) {
+    DesignSettings s;
+    s.factors = "2", s.replications = "3", s.randomize = true, s.letters = true, s.blocks = true, s.squares = true;
+    EXPECT_EQ(composeDesign(s).body.lines, Lines{"FACTORIAL / FACTORS=2 REPS=3 RAND LETTERS BLOCK"});
+    s.design = IDC_DOE_LATIN, s.levels = "5", s.replications = "1";
+    EXPECT_EQ(composeDesign(s).body.lines, Lines{"LATIN / LEVELS=5 SQUARES RAND LETTERS BLOCK"});
+    s = {};
+    s.design = IDC_DOE_TAGUCHI;
+    s.array = 13;
+    EXPECT_EQ(composeDesign(s).body.lines, Lines{"TAGUCHI / TYPE=L81"});
+    s.array = 99;
+    EXPECT_EQ(composeDesign(s).body.lines, Lines{"TAGUCHI / TYPE=L81"});
+    s.array = -1;
+    EXPECT_EQ(composeDesign(s).body.lines, Lines{"TAGUCHI / TYPE=L4"});
+
+    const struct {
+        int design;
+        std::string factors, levels, runs;
+    } refused[] = {
+        {IDC_DOE_FULL, " ", "2", "8"},   {IDC_DOE_FRACTIONAL, "3", "2", ""}, {IDC_DOE_FRACTIONAL, "", "2", "8"},
+        {IDC_DOE_LATIN, "3", "", "8"},   {IDC_DOE_PLACKETT, "3", "2", ""},   {IDC_DOE_BOX, "", "3", "8"},
+    };
+    for (const auto& row : refused) {
+        DesignSettings r;
+        r.design = row.design, r.factors = row.factors, r.levels = row.levels, r.runs = row.runs;
+        EXPECT_EQ(composeDesign(r).body.refusal, "You must provide more input.") << row.design;
+    }
 }
 
 }  // namespace
