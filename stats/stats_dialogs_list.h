@@ -69,5 +69,18 @@ DialogBehaviour& signalBehaviour();
 DialogBehaviour& testatClassicalBehaviour();
 DialogBehaviour& testatLogisticBehaviour();
 DialogBehaviour& ramonaBehaviour();
+DialogBehaviour& friedmanBehaviour();
+DialogBehaviour& twoSampleKsBehaviour();
+DialogBehaviour& kruskalWallisBehaviour();
+DialogBehaviour& signTestBehaviour();
+DialogBehaviour& runsTestBehaviour();
+DialogBehaviour& wilcoxonBehaviour();
+DialogBehaviour& oneSampleKsBehaviour();
+DialogBehaviour& oneWayTablesBehaviour();
+DialogBehaviour& twoWayTablesBehaviour();
+DialogBehaviour& multiwayTablesBehaviour();
+DialogBehaviour& loglinBehaviour();
+DialogBehaviour& loglinTabulateBehaviour();
+DialogBehaviour& designBehaviour();
 
 }  // namespace kvs::stats

@@ -550,4 +550,77 @@ inline constexpr Choice kMdsSaveKinds[] = {
     {"Configuration", "CONFIG"}, {"Distances", "DIST"}, {"Residuals", "RESID"},
 };
 
+// Nonparametric tests.
+inline constexpr std::string_view kNpar = "NPAR";
+inline constexpr std::string_view kNparFile = "NPAR.KVD";
+inline constexpr std::string_view kFriedman = "FRIEDMAN ";
+inline constexpr std::string_view kKruskal = "KRUSKAL ";
+inline constexpr std::string_view kSign = "SIGN ";
+inline constexpr std::string_view kRuns = "RUNS ";
+inline constexpr std::string_view kWilcoxon = "WILCOXON ";
+inline constexpr std::string_view kKolmogorov = "KS ";
+inline constexpr std::string_view kCut = " /CUT=";
+inline constexpr std::string_view kNormal = " / NORMAL";
+inline constexpr std::string_view kUniform = " / UNIFORM";
+inline constexpr std::string_view kExponential = " / EXPONENTIAL";
+inline constexpr std::string_view kLilliefors = " / LILLIEFORS";
+inline constexpr std::string_view kParameters = "=";
+inline constexpr std::string_view kParameterSeparator = ",";
+inline constexpr std::string_view kDefaultMean = "0";
+inline constexpr std::string_view kDefaultSd = "1";
+inline constexpr std::string_view kDefaultLower = "0";
+inline constexpr std::string_view kDefaultUpper = "1";
+inline constexpr std::string_view kDefaultScale = "1";
+
+// Tables.
+inline constexpr std::string_view kXtab = "XTAB";
+inline constexpr std::string_view kTablesFile = "TABLES.KVD";
+inline constexpr std::string_view kTabulate = "TABULATE ";
+inline constexpr std::string_view kCrossedBy = " * ";
+inline constexpr std::string_view kPrintOnly = " NONE/";
+// The statistics a table prints, by check box (IDC_XTAB_FREQ on).
+inline constexpr std::string_view kTablePrints[] = {
+    " FREQ", " PERCENT", " ROWP", " COLP", " EXPECT", " DEVIATE", " STANDARD", " CHISQ",
+};
+inline constexpr std::string_view kListLayout = " LIST";
+inline constexpr std::string_view kMissing = " MISS";
+inline constexpr std::string_view kMantel = " MANTEL";
+inline constexpr std::string_view kDefaultConfi = "0.95";
+
+// Log-linear models.
+inline constexpr std::string_view kLoglin = "LOGLIN";
+inline constexpr std::string_view kLoglinFile = "LOGLIN.KVD";
+inline constexpr std::string_view kLambdasQualifier = " / LAMBDAS";
+inline constexpr std::string_view kEstimatesQualifier = " / ESTIMATES";
+inline constexpr std::string_view kCrossed = "*";
+inline constexpr std::string_view kLoglinPrintNone = "PRINT NONE/";
+// What the model prints, by check box (IDC_LOGLIN_OBSERVED on).
+inline constexpr std::string_view kLoglinPrints[] = {" OBSERVED", " EXPECT", " STANDARD", " LAMBDA", " CHISQ"};
+inline constexpr std::string_view kDefaultConv = "0.0001";
+inline constexpr std::string_view kLconv = " LCONV=";
+inline constexpr std::string_view kDefaultLconv = "0.000001";
+inline constexpr std::string_view kDefaultLoglinTol = "0.001";
+inline constexpr std::string_view kHalvings = " HALF=";
+inline constexpr std::string_view kDelta = " DELTA=";
+
+// Design of Experiments.
+inline constexpr std::string_view kDesign = "DESIGN";
+inline constexpr std::string_view kDesignFile = "XDESIGN.KVD";
+// The verb of each design, by radio button (IDC_DOE_FULL on).
+inline constexpr std::string_view kDesignVerbs[] = {"FACTORIAL", "FACTORIAL", "LATIN", "PLACKETT", "BOXBEHNKEN", "TAGUCHI"};
+inline constexpr std::string_view kLevels = " LEVELS=";
+inline constexpr std::string_view kDefaultLevels = "2";
+inline constexpr std::string_view kFactors = " FACTORS=";
+inline constexpr std::string_view kRunCount = " RUNS=";
+inline constexpr std::string_view kReplications = " REPS=";
+inline constexpr std::string_view kDefaultReplications = "1";
+inline constexpr std::string_view kDesignType = " TYPE=";
+inline constexpr std::string_view kLetters = " LETTERS";
+inline constexpr std::string_view kSquares = " SQUARES";
+inline constexpr std::string_view kRandomize = " RAND";
+inline constexpr std::string_view kBlock = " BLOCK";
+// The Taguchi arrays the Array box offers, in order.
+inline constexpr std::string_view kTaguchiArrays[] = {"L4",  "L8",  "L9",  "L12", "L16", "L18", "L25",
+                                                      "L27", "L32", "L36", "L50", "L54", "L64", "L81"};
+
 }  // namespace kvs::stats::text

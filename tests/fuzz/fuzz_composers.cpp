@@ -20,13 +20,17 @@
 #include "core/numeric_field.h"
 #include "data/composers.h"
 #include "graph/graph_composers.h"
-#include "stats/chart_composers.h"
-#include "stats/estimate_composers.h"
-#include "stats/model_composers.h"
 #include "stats/analysis_composers.h"
+#include "stats/chart_composers.h"
+#include "stats/design_composers.h"
+#include "stats/estimate_composers.h"
+#include "stats/loglin_composers.h"
+#include "stats/model_composers.h"
 #include "stats/multivariate_composers.h"
+#include "stats/npar_composers.h"
 #include "stats/series_composers.h"
 #include "stats/stats_composers.h"
+#include "stats/tables_composers.h"
 #include "tools/scenario/line_checks.h"
 
 namespace {
@@ -119,7 +123,7 @@ kvs::data::ConditionState conditions(FuzzedDataProvider& in) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzedDataProvider in(data, size);
     const NoOptions options;
-    switch (in.ConsumeIntegralInRange(0, 21)) {
+    switch (in.ConsumeIntegralInRange(0, 22)) {
     case 0: check(kvs::data::composeSort(names(in), in.ConsumeIntegralInRange(-1, 3))); break;
     case 1: check(kvs::data::composeRank(names(in))); break;
     case 2: check(kvs::data::composeTranspose(names(in))); break;
@@ -350,6 +354,38 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         r.method = in.ConsumeIntegralInRange(IDC_RAMONA_ML - 1, IDC_RAMONA_ADFU + 1);
         r.cases = value(), r.iterations = value(), r.convergence = value(), r.confidence = value();
         check(st::composeRamona(r, left).body);
+        break;
+    }
+    case 22: {
+        // The nonparametric tests, the tables, the log-linear model, the designs.
+        namespace st = kvs::stats;
+        const auto value = [&in] { return in.ConsumeRandomLengthString(200); };
+        const std::uint16_t nparIds[] = {226, 227, 228, 229, 230, 231, 268};
+        st::NparSettings n;
+        n.cut = value(), n.distribution = in.ConsumeIntegralInRange(IDC_KS_NORMAL - 1, IDC_KS_LILLIEFORS + 1);
+        n.mean = value(), n.sd = value(), n.lower = value(), n.upper = value(), n.scale = value();
+        check(st::composeNpar(nparIds[in.ConsumeIntegralInRange(0, 6)], n, names(in), names(in)).body);
+        st::TableSettings t;
+        t.counts = in.ConsumeBool(), t.percents = in.ConsumeBool(), t.rowPercents = in.ConsumeBool();
+        t.columnPercents = in.ConsumeBool(), t.expected = in.ConsumeBool(), t.deviates = in.ConsumeBool();
+        t.standardized = in.ConsumeBool(), t.chiSquare = in.ConsumeBool(), t.listLayout = in.ConsumeBool();
+        t.missing = in.ConsumeBool(), t.mantel = in.ConsumeBool(), t.confidence = value();
+        const std::uint16_t tableIds[] = {253, 266, 267};
+        check(st::composeTables(tableIds[in.ConsumeIntegralInRange(0, 2)], t, names(in), names(in)).body);
+        st::LoglinSettings l;
+        l.terms = in.ConsumeRandomLengthString(12000), l.observed = in.ConsumeBool(), l.expected = in.ConsumeBool();
+        l.standardized = in.ConsumeBool(), l.lambdas = in.ConsumeBool(), l.chiSquare = in.ConsumeBool();
+        l.convergence = value(), l.likelihood = value(), l.tolerance = value(), l.iterations = value();
+        l.halvings = value(), l.delta = value(), l.saved = in.ConsumeIntegralInRange(41, 44);
+        const kvs::Names factors = names(in);
+        check(st::composeLoglin(l, factors).body);
+        check(st::composeLoglinTabulate(factors).body);
+        st::DesignSettings d;
+        d.design = in.ConsumeIntegralInRange(IDC_DOE_FULL - 1, IDC_DOE_TAGUCHI + 1);
+        d.factors = value(), d.levels = value(), d.runs = value(), d.replications = value();
+        d.array = in.ConsumeIntegralInRange(-2, 20), d.randomize = in.ConsumeBool(), d.letters = in.ConsumeBool();
+        d.blocks = in.ConsumeBool(), d.squares = in.ConsumeBool();
+        check(st::composeDesign(d).body);
         break;
     }
     case 9: {
