@@ -133,6 +133,11 @@ std::optional<int> HeadlessBackend::controlByLabel(std::string_view label) {
     return window ? window->dialog->findByLabel(label) : std::nullopt;
 }
 
+std::optional<int> HeadlessBackend::fieldByLabel(std::string_view label) {
+    DialogWindow* window = dialog();
+    return window ? window->dialog->findByLabel(label, true) : std::nullopt;
+}
+
 bool HeadlessBackend::hasControl(int id) {
     DialogWindow* window = dialog();
     return window && window->dialog->control(id);

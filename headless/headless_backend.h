@@ -30,6 +30,7 @@ public:
     scenario::WindowKind topKind() override;
     std::string topText() override;
     std::optional<int> controlByLabel(std::string_view label) override;
+    std::optional<int> fieldByLabel(std::string_view label) override;
     bool hasControl(int id) override;
     std::optional<scenario::ControlInfo> control(int id) override;
     std::optional<scenario::ControlInfo> controlState(int id) override;

@@ -430,7 +430,22 @@ void HeadlessDialog::checkAutoRadio(std::size_t index) {
     controls_[index].check = kChecked;
 }
 
-std::optional<int> HeadlessDialog::findByLabel(std::string_view label) const {
+// The edit or combo box on the button's row, nearest to its right: the value
+// a check box or radio choice labels ("Number: [  ]").
+std::optional<int> HeadlessDialog::fieldBeside(const ControlState& button) const {
+    std::optional<int> nearest;
+    int nearestX = 0;
+    for (const ControlState& c : controls_) {
+        if (c.def.kind != ControlKind::Edit && c.def.kind != ControlKind::ComboBox) continue;
+        const bool sameRow = c.def.y < button.def.y + button.def.h && button.def.y < c.def.y + c.def.h;
+        if (!sameRow || c.def.x <= button.def.x || (nearest && c.def.x >= nearestX)) continue;
+        nearest = c.def.id;
+        nearestX = c.def.x;
+    }
+    return nearest;
+}
+
+std::optional<int> HeadlessDialog::findByLabel(std::string_view label, bool field) const {
     const std::string_view wanted = trimBlanks(label);
     const auto matches = [wanted](const ControlState& c) {
         return trimBlanks(withoutMnemonics(c.text)) == wanted;
@@ -438,7 +453,10 @@ std::optional<int> HeadlessDialog::findByLabel(std::string_view label) const {
     for (std::size_t i = 0; i < controls_.size(); ++i) {
         const ControlState& c = controls_[i];
         const ControlKind kind = c.def.kind;
-        if (kind == ControlKind::Button && !c.def.isGroupBox() && matches(c)) return c.def.id;
+        if (kind == ControlKind::Button && !c.def.isGroupBox() && matches(c)) {
+            if (const std::optional<int> value = field ? fieldBeside(c) : std::nullopt) return value;
+            return c.def.id;
+        }
         const bool labelled = kind == ControlKind::ListBox || kind == ControlKind::Edit || kind == ControlKind::ComboBox;
         if (labelled && i > 0 && controls_[i - 1].def.kind == ControlKind::Static && matches(controls_[i - 1])) {
             return c.def.id;

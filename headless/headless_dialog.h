@@ -96,7 +96,10 @@ public:
     // The control a scenario names by label: a button by its own text, a
     // list, edit or combo box by the static text just before it in template
     // order. Mnemonic '&' and surrounding blanks are ignored.
-    std::optional<int> findByLabel(std::string_view label) const;
+    // With field set, a check box or radio button of that text with an edit
+    // or combo box beside it on its row (a choice with its value, "Number:")
+    // names that field instead.
+    std::optional<int> findByLabel(std::string_view label, bool field = false) const;
 
     const std::string& caption() const { return caption_; }
     void setCaption(std::string_view text) override { caption_ = std::string(text); }
@@ -145,6 +148,7 @@ private:
     ControlState* findKind(int id, ControlKind kind);
     const ControlState* findKind(int id, ControlKind kind) const;
     void checkAutoRadio(std::size_t index);
+    std::optional<int> fieldBeside(const ControlState& button) const;
 };
 
 }  // namespace kvs::headless

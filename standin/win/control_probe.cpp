@@ -89,13 +89,40 @@ scenario::ControlInfo describeControl(HWND control) {
     return info;
 }
 
-std::optional<int> controlByLabel(HWND dialog, std::string_view label) {
+namespace {
+
+// The edit or combo box on the button's row, nearest to its right: the value
+// a check box or radio choice labels ("Number: [  ]").
+HWND fieldBeside(HWND dialog, HWND button) {
+    RECT b{};
+    GetWindowRect(button, &b);
+    HWND nearest = nullptr;
+    LONG nearestX = 0;
+    for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        const ControlKind kind = controlKind(child);
+        if (kind != ControlKind::Edit && kind != ControlKind::ComboBox) continue;
+        RECT c{};
+        GetWindowRect(child, &c);
+        const bool sameRow = c.top < b.bottom && b.top < c.bottom;
+        if (!sameRow || c.left <= b.left || (nearest && c.left >= nearestX)) continue;
+        nearest = child;
+        nearestX = c.left;
+    }
+    return nearest;
+}
+
+}  // namespace
+
+std::optional<int> controlByLabel(HWND dialog, std::string_view label, bool field) {
     const std::string wanted = labelText(label);
     HWND previous = nullptr;
     for (HWND child = GetWindow(dialog, GW_CHILD); child; previous = child, child = GetWindow(child, GW_HWNDNEXT)) {
         const ControlKind kind = controlKind(child);
         const int id = GetDlgCtrlID(child);
-        if (kind == ControlKind::Button && !isGroupBox(child) && labelText(windowText(child)) == wanted) return id;
+        if (kind == ControlKind::Button && !isGroupBox(child) && labelText(windowText(child)) == wanted) {
+            if (const HWND value = field ? fieldBeside(dialog, child) : nullptr) return GetDlgCtrlID(value);
+            return id;
+        }
         const bool labelled = kind == ControlKind::ListBox || kind == ControlKind::Edit || kind == ControlKind::ComboBox;
         if (labelled && previous && controlKind(previous) == ControlKind::Static &&
             labelText(windowText(previous)) == wanted)

@@ -20,6 +20,8 @@ scenario::ControlInfo describeControl(HWND control);
 
 // A button by its own text, or a list, edit or combo box by the static text
 // just before it in template order (the order of the dialog's children).
-std::optional<int> controlByLabel(HWND dialog, std::string_view label);
+// With field set, a button of that text followed by an edit or combo box
+// names that field (a radio choice with its value).
+std::optional<int> controlByLabel(HWND dialog, std::string_view label, bool field);
 
 }  // namespace kvs::standin

@@ -83,7 +83,12 @@ void WindowBackend::notify(HWND window, int id, int code) {
 
 std::optional<int> WindowBackend::controlByLabel(std::string_view label) {
     const HWND window = dialog();
-    return window ? standin::controlByLabel(window, label) : std::nullopt;
+    return window ? standin::controlByLabel(window, label, false) : std::nullopt;
+}
+
+std::optional<int> WindowBackend::fieldByLabel(std::string_view label) {
+    const HWND window = dialog();
+    return window ? standin::controlByLabel(window, label, true) : std::nullopt;
 }
 
 bool WindowBackend::hasControl(int id) { return item(id) != nullptr; }

@@ -184,7 +184,7 @@ bool Engine::setup(const Statement& s) {
 }
 
 // A number, an IDC_ name of the id headers, or a quoted label.
-int Engine::controlId(const Token& token) {
+int Engine::controlId(const Token& token, bool field) {
     if (!token.quoted) {
         std::optional<long long> id = toNumber(token.text);
         if (!id) {
@@ -192,17 +192,18 @@ int Engine::controlId(const Token& token) {
         }
         return id && *id != 0 && backend_.hasControl(static_cast<int>(*id)) ? static_cast<int>(*id) : 0;
     }
-    return backend_.controlByLabel(token.text).value_or(0);
+    return (field ? backend_.fieldByLabel(token.text) : backend_.controlByLabel(token.text)).value_or(0);
 }
 
 void Engine::actOnDialog(const Statement& s) {
     const std::string& k = s.keyword;
+    const bool typing = k == "type" || k == "typerepeat";
     auto needControl = [&](std::size_t argument) -> int {
         if (s.args.size() <= argument) {
             fail(s, "'" + k + "' needs a control");
             return 0;
         }
-        const int id = controlId(s.args[argument]);
+        const int id = controlId(s.args[argument], typing);
         if (!id) fail(s, "no control " + quote(s.args[argument].text) + " in " + quote(backend_.topText()));
         return id;
     };

@@ -93,6 +93,10 @@ public:
     // A dialog's caption, a message box's text, a chooser's title.
     virtual std::string topText() = 0;
     virtual std::optional<int> controlByLabel(std::string_view label) = 0;
+    // The field a label names for typing: as controlByLabel, except that a
+    // button of that text followed by an edit or combo box (a radio choice
+    // with its value) names that field.
+    virtual std::optional<int> fieldByLabel(std::string_view label) { return controlByLabel(label); }
     // Whether the topmost dialog has the control: what control(id) tells,
     // without reading a long list's items.
     virtual bool hasControl(int id) { return control(id).has_value(); }
@@ -163,7 +167,7 @@ private:
     void actOnChooser(const Statement& statement);
     void actOnFontChooser(const Statement& statement);
     void actOnMenu(const Statement& statement);
-    int controlId(const Token& token);
+    int controlId(const Token& token, bool field = false);
     void fail(const Statement& statement, const std::string& message);
     std::string describeTop();
 
