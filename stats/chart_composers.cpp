@@ -168,7 +168,8 @@ ProcedureBlock composeCusum(const CusumSettings& s, const Names& y, const Names&
 ProcedureBlock composeTsq(const TsqSettings& s, const Names& variables, const Names& subgroup) {
     std::optional<CommandText> line = chartStart(text::kTsq, variables, subgroup);
     if (!line) return refusal(kvs::text::kSelectVariables);
-    if (s.external && !appendOption(*line, text::kCovariance, s.covarianceFile, true))
+    // The file as chosen, unquoted: the line is rewritten "%s COVAR=%s".
+    if (s.external && !appendOption(*line, text::kCovariance, s.covarianceFile))
         return refusal(text::kExternalFile);
     appendLimits(*line, s);
     if (s.averageSize) line->append(text::kAverageSize);

@@ -205,7 +205,7 @@ TEST(ChartComposers, TheOtherCharts) {
         {composeCusum(lower, kWeight, kLot), "CUSUM WEIGHT*LOT / LOWER"},
         {composeCusum(neither, kWeight, kLot), "refused: You must select 'Upper' or 'Lower' graph to display."},
         {composeTsq(tsq, {"A", "B"}, kLot), "TSQ A B*LOT / PLIMITS=0.99 AGG"},
-        {composeTsq(external, {"A", "B"}, kLot), "TSQ A B*LOT / COVAR=\"C:\\COV.KVD\" PLIMITS=0.99 AGG"},
+        {composeTsq(external, {"A", "B"}, kLot), "TSQ A B*LOT / COVAR=C:\\COV.KVD PLIMITS=0.99 AGG"},
         {composeTsq(noFile, {"A"}, kLot), "refused: You must select external file."},
         {composeTsq(tsq, {"A"}, {}), "refused: You must select variables."},
         {composePca({}, kWeight), "PCA WEIGHT"},
