@@ -11,6 +11,20 @@
 #define IDC_SPATIAL_KRIG       32
 #define IDC_SPATIAL_SIMULATE   33
 #define IDC_SPATIAL_POINT      34
+/* The options of the analyses: variogram lags and lag width, kriging's
+ * search points and radius, simulation's realisations and seed. */
+#define IDC_SPATIAL_LAGS       73
+#define IDC_SPATIAL_WIDTH      74
+#define IDC_SPATIAL_POINTS     75
+#define IDC_SPATIAL_RADIUS     76
+#define IDC_SPATIAL_REALIZE    77
+#define IDC_SPATIAL_SEED       78
+#define IDC_SPATIAL_LAGS_LABEL 79
+#define IDC_SPATIAL_WIDTH_LABEL 80
+#define IDC_SPATIAL_POINTS_LABEL 81
+#define IDC_SPATIAL_RADIUS_LABEL 82
+#define IDC_SPATIAL_REALIZE_LABEL 83
+#define IDC_SPATIAL_SEED_LABEL 84
 
 /* Iterations and convergence of POSAC, Conjoint Analysis, Signal
  * Detection, the logistic item analysis and RAMONA. */

@@ -10,6 +10,10 @@
 #define IDC_MODEL_CONSTANT   31
 #define IDC_MODEL_CASES      32  /* Regression: number of cases of a matrix file */
 #define IDC_MODEL_CASES_LABEL 33
+#define IDC_MODEL_EXIT       34  /* leave the module when done */
+#define IDC_MODEL_MISSING    35  /* ANOVA: missing values as a category */
+#define IDC_MODEL_QUADRATIC  36  /* Discriminant: quadratic */
+/* ANOVA: list 11 "Covariate(s):". */
 #define IDC_MODEL_OPTIONS    50
 #define IDC_MODEL_REPEATED   56
 #define IDC_MODEL_STATISTICS 57

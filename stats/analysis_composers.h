@@ -16,12 +16,17 @@ namespace kvs::stats {
 // "MODEL a b = c+d", or "MODEL a b" without names on the right.
 CommandText variablesModel(const Names& left, const Names& right);
 
-// Spatial Statistics: one analysis a run, each with its own output file.
+// Spatial Statistics: one analysis a run, each with its own output file and
+// options; an empty option leaves the analysis its own default.
 struct SpatialSettings {
     int analysis = IDC_SPATIAL_VARIO;  // or IDC_SPATIAL_KRIG, IDC_SPATIAL_SIMULATE, IDC_SPATIAL_POINT
+    std::string lags, lagWidth;        // variogram
+    std::string points, radius;        // kriging's search neighbourhood
+    std::string realizations, seed;    // simulation
 };
 // "MODEL z = x+y" ("MODEL x y" for points without a variable), then
-// "VARIO", "KRIG", "SIMULATE" or "POINT".
+// "VARIO / NLAGS=10 WIDTH=2", "KRIG / POINTS=8 RADIUS=50", "SIMULATE /
+// NREAL=100 SEED=7" (without options "VARIO", "KRIG", "SIMULATE") or "POINT".
 ProcedureBlock composeSpatial(const SpatialSettings& settings, const Names& variable, const Names& coordinates);
 
 // POSAC: "MODEL a b c", "ESTIMATE / ITERATIONS=n CONVERGENCE=c".

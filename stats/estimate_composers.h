@@ -28,8 +28,9 @@ ProcedureBlock composeTsls(const EstimateSettings& settings, const Names& depend
 struct PairwiseSettings {
     int test = IDC_POST_BONFERRONI;
 };
-// "HYPOTHESIS", "POST a / TUKEY", "TEST".
-ProcedureBlock composePairwise(const PairwiseSettings& settings, const Names& factor);
+// "HYPOTHESIS", "POST a / TUKEY", ["DEPEND y1 y2" when the comparisons are
+// restricted to some dependents], "TEST".
+ProcedureBlock composePairwise(const PairwiseSettings& settings, const Names& factor, const Names& dependents = {});
 
 // Nonlinear Model.
 struct NonlinSettings {

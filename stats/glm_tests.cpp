@@ -1,6 +1,7 @@
 // The tests after a GLM or ANOVA estimation: GLM: Pairwise Comparisons
-// (260) over one factor, and the hypothesis dialogs of GLM (261) and ANOVA
-// (262), which share Logit's hypothesis lines.
+// (260) over one factor, for every dependent or those named, and the
+// hypothesis dialogs of GLM (261) and ANOVA (262), which share Logit's
+// hypothesis lines.
 #include "core/descriptor.h"
 #include "core/messages.h"
 #include "stats/estimate_composers.h"
@@ -11,7 +12,7 @@
 
 namespace kvs::stats {
 
-ProcedureBlock composePairwise(const PairwiseSettings& s, const Names& factor) {
+ProcedureBlock composePairwise(const PairwiseSettings& s, const Names& factor, const Names& dependents) {
     if (factor.empty()) return ProcedureBlock::refuse(text::kGlm, text::kSelectFactors);
     const int test = s.test - IDC_POST_BONFERRONI;
     const bool known = test >= 0 && test < static_cast<int>(std::size(text::kPostTests));
@@ -20,6 +21,11 @@ ProcedureBlock composePairwise(const PairwiseSettings& s, const Names& factor) {
     Composition body;
     body.add(text::kHypothesis);
     body.add(post);
+    if (!dependents.empty()) {
+        CommandText depend(text::kDepend);
+        joinNames(dependents, depend, ' ');
+        body.add(depend);
+    }
     body.add(text::kTestLine);
     return {text::kGlm, {}, {}, std::move(body)};
 }
@@ -38,7 +44,7 @@ public:
 
 private:
     ProcedureBlock compose(const PairwiseSettings& s, const DialogView& view) const override {
-        return composePairwise(s, listNames(view, IDC_TARGET1));
+        return composePairwise(s, listNames(view, IDC_TARGET1), listNames(view, IDC_TARGET2));
     }
 };
 

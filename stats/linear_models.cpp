@@ -38,7 +38,13 @@ ProcedureBlock composeGlm(std::uint16_t commandId, const ModelSettings& s, const
     if (anova) {
         CommandText category(text::kCategory);
         joinNames(independents, category, ' ');
+        if (s.missingCategory) category.append(text::kMissingCategory);
         body.add(category);
+        if (!s.covariates.empty()) {
+            CommandText covariates(text::kCovariates);
+            joinNames(s.covariates, covariates, ' ');
+            body.add(covariates);
+        }
     }
     CommandText model = modelLine(dependents, s.constant && s.constantEnabled, independents);
     if (const std::string clause = repeatedClause(measures); !clause.empty()) {
@@ -47,6 +53,7 @@ ProcedureBlock composeGlm(std::uint16_t commandId, const ModelSettings& s, const
     }
     body.add(model);
     addEstimation(body, EstimationKind::Glm, options);
+    if (s.exit) body.add(text::kExit);
     return {procedure, file, {}, std::move(body)};
 }
 
@@ -59,6 +66,7 @@ ProcedureBlock composeRegression(const ModelSettings& s, const EstimationOptions
     Composition body;
     body.add(model);
     addEstimation(body, EstimationKind::Regression, options);
+    if (s.exit) body.add(text::kExit);
     return {text::kRegress, text::kRegressFile, {}, std::move(body)};
 }
 
@@ -68,9 +76,12 @@ ProcedureBlock composeDiscriminant(const ModelSettings& s, const EstimationOptio
     if (dependents.empty()) return ProcedureBlock::refuse(text::kDiscrim, kvs::text::kSelectVariables);
     if (independents.empty()) return ProcedureBlock::refuse(text::kDiscrim, text::kSelectIndependents);
     Composition body;
-    body.add(modelLine(dependents, s.constant && s.constantEnabled, independents));
+    CommandText model = modelLine(dependents, s.constant && s.constantEnabled, independents);
+    if (s.quadratic) model.append(text::kQuadratic);
+    body.add(model);
     if (const std::string print = printLine(statistics); !print.empty()) body.add(print);
     addEstimation(body, EstimationKind::Discriminant, options);
+    if (s.exit) body.add(text::kExit);
     return {text::kDiscrim, text::kDiscrimFile, {}, std::move(body)};
 }
 
@@ -93,8 +104,10 @@ constexpr ModelSpec kDiscriminantSpec{222, EstimationKind::Discriminant, 1, fals
 
 Bindings<ModelSettings> modelBindings(const ModelSpec& spec) {
     Bindings<ModelSettings> b;
-    b.check(IDC_MODEL_CONSTANT, &ModelSettings::constant);
+    b.check(IDC_MODEL_CONSTANT, &ModelSettings::constant).check(IDC_MODEL_EXIT, &ModelSettings::exit);
     if (spec.cases) b.number(IDC_MODEL_CASES, &ModelSettings::cases, kStoredValueLimit);
+    if (spec.id == 218) b.check(IDC_MODEL_MISSING, &ModelSettings::missingCategory);
+    if (spec.kind == EstimationKind::Discriminant) b.check(IDC_MODEL_QUADRATIC, &ModelSettings::quadratic);
     return b;
 }
 
@@ -110,11 +123,16 @@ class ModelDialog : public ProcedureDialog<ModelSettings> {
 public:
     ModelDialog() : ProcedureDialog(settings(), modelBindings(Spec)) {}
 
-    std::vector<OwnList> ownLists() override { return {{IDC_DEPENDENT, &dependents_, Spec.dependents}}; }
+    std::vector<OwnList> ownLists() override {
+        std::vector<OwnList> lists{{IDC_DEPENDENT, &dependents_, Spec.dependents}};
+        if (Spec.id == 218) lists.push_back({IDC_TARGET2, &covariates_, kCovariateCapacity});
+        return lists;
+    }
 
     void addDefaults(DefaultsTable& table) override {
         ProcedureDialog::addDefaults(table);
         table.record(dependents_);
+        table.record(covariates_);
         addEstimationDefaults(table, Spec.kind);
         if (Spec.repeated) addRepeatedMeasuresDefaults(table);
         if (Spec.statistics) addDiscriminantStatisticsDefaults(table);
@@ -158,6 +176,7 @@ private:
         ModelSettings s = settings;
         s.constantEnabled = view.isEnabled(IDC_MODEL_CONSTANT);
         s.matrix = matrix_;
+        if (Spec.id == 218) s.covariates = listNames(view, IDC_TARGET2);
         const Names& dependents = listNames(view, IDC_DEPENDENT);
         const Names& independents = listNames(view, IDC_TARGET1);
         const EstimationOptions& options = estimationOptions(Spec.kind);
@@ -167,7 +186,10 @@ private:
         return composeGlm(Spec.id, s, options, repeatedMeasures(), dependents, independents);
     }
 
+    static constexpr std::int32_t kCovariateCapacity = 256;
+
     SelectionArray dependents_{};
+    SelectionArray covariates_{};  // ANOVA's covariates
     OpenedRecords opened_{};
     bool matrix_ = false;
 };

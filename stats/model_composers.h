@@ -1,8 +1,9 @@
 // The builders of the linear models as pure functions: ANOVA (218), GLM
 // (219), Regression (221) and Discriminant Analysis (222). The block is
-// [CATEGORY line (ANOVA)], MODEL line [+ repeated-measures clause (ANOVA,
-// GLM)], [PRINT line (Discriminant)], the estimation line and its second
-// line; the procedure and SAVE lines come from deliverBlock.
+// [CATEGORY line (ANOVA), COVAR line (ANOVA with covariates)], MODEL line [+
+// repeated-measures clause (ANOVA, GLM), "/ QUAD" (Discriminant)], [PRINT
+// line (Discriminant)], the estimation line and its second line, [EXIT];
+// the procedure and SAVE lines come from deliverBlock.
 #pragma once
 
 #include <string>
@@ -19,6 +20,10 @@ struct ModelSettings {
     bool constantEnabled = true;
     std::string cases;    // Regression: the number of cases, asked for a matrix file
     bool matrix = false;  // the file in use is a matrix
+    bool missingCategory = false;  // ANOVA: missing values form a category of each factor ("/MISS")
+    bool quadratic = false;        // Discriminant: quadratic functions ("/ QUAD")
+    bool exit = false;             // leave the module when the estimation is done ("EXIT")
+    Names covariates;              // ANOVA: the covariates, taken from their list at OK
 };
 
 // ANOVA (218) and GLM (219): the independents of ANOVA are its factors.

@@ -8,6 +8,7 @@
 #include "stats/procedure_dialog.h"
 #include "stats/stats_dialogs_list.h"
 #include "stats/stats_texts.h"
+#include "stats/stored_options.h"
 
 namespace kvs::stats {
 
@@ -41,6 +42,21 @@ ProcedureBlock composeSpatial(const SpatialSettings& s, const Names& variable, c
         return ProcedureBlock::refuse(text::kSpatial, kvs::text::kSelectVariables);
     }
     CommandText verb(analysis.verb);
+    switch (analysis.choice) {
+    case IDC_SPATIAL_VARIO:
+        appendOption(verb, text::kLagCount, s.lags);
+        appendOption(verb, text::kLagWidth, s.lagWidth);
+        break;
+    case IDC_SPATIAL_KRIG:
+        appendOption(verb, text::kSearchPoints, s.points);
+        appendOption(verb, text::kSearchRadius, s.radius);
+        break;
+    case IDC_SPATIAL_SIMULATE:
+        appendOption(verb, text::kRealizations, s.realizations);
+        appendOption(verb, text::kSeed, s.seed);
+        break;
+    default: break;
+    }
     closeOptions(verb);
     Composition body;
     body.add(variable.empty() ? variablesModel(coordinates, {}) : variablesModel(variable, coordinates));
@@ -53,13 +69,31 @@ namespace {
 constexpr std::int32_t kCoordinates = 3;  // X, Y and Z
 SpatialSettings spatialSettings;
 
+// Each analysis's options are open while it is the one chosen.
+Bindings<SpatialSettings> spatialBindings() {
+    Bindings<SpatialSettings> b;
+    b.radio({IDC_SPATIAL_VARIO, IDC_SPATIAL_KRIG, IDC_SPATIAL_SIMULATE, IDC_SPATIAL_POINT},
+            &SpatialSettings::analysis);
+    struct Option {
+        int id, label;
+        std::string SpatialSettings::*value;
+        int choice;
+    };
+    constexpr Option kOptions[] = {
+        {IDC_SPATIAL_LAGS, IDC_SPATIAL_LAGS_LABEL, &SpatialSettings::lags, IDC_SPATIAL_VARIO},
+        {IDC_SPATIAL_WIDTH, IDC_SPATIAL_WIDTH_LABEL, &SpatialSettings::lagWidth, IDC_SPATIAL_VARIO},
+        {IDC_SPATIAL_POINTS, IDC_SPATIAL_POINTS_LABEL, &SpatialSettings::points, IDC_SPATIAL_KRIG},
+        {IDC_SPATIAL_RADIUS, IDC_SPATIAL_RADIUS_LABEL, &SpatialSettings::radius, IDC_SPATIAL_KRIG},
+        {IDC_SPATIAL_REALIZE, IDC_SPATIAL_REALIZE_LABEL, &SpatialSettings::realizations, IDC_SPATIAL_SIMULATE},
+        {IDC_SPATIAL_SEED, IDC_SPATIAL_SEED_LABEL, &SpatialSettings::seed, IDC_SPATIAL_SIMULATE}};
+    for (const Option& o : kOptions)
+        b.number(o.id, o.value, kStoredValueLimit).enableWith(o.id, o.choice).enableWith(o.label, o.choice);
+    return b;
+}
+
 class SpatialDialog : public ProcedureDialog<SpatialSettings> {
 public:
-    SpatialDialog()
-        : ProcedureDialog(spatialSettings,
-                          Bindings<SpatialSettings>().radio(
-                              {IDC_SPATIAL_VARIO, IDC_SPATIAL_KRIG, IDC_SPATIAL_SIMULATE, IDC_SPATIAL_POINT},
-                              &SpatialSettings::analysis)) {}
+    SpatialDialog() : ProcedureDialog(spatialSettings, spatialBindings()) {}
 
     std::int32_t listCapacity(int listId, std::int32_t capacity) const override {
         return listId == IDC_TARGET1 ? kCoordinates : capacity;

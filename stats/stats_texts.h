@@ -623,4 +623,18 @@ inline constexpr std::string_view kBlock = " BLOCK";
 inline constexpr std::string_view kTaguchiArrays[] = {"L4",  "L8",  "L9",  "L12", "L16", "L18", "L25",
                                                       "L27", "L32", "L36", "L50", "L54", "L64", "L81"};
 
+// The options of the spatial analyses.
+inline constexpr std::string_view kLagCount = " NLAGS=";
+inline constexpr std::string_view kLagWidth = " WIDTH=";
+inline constexpr std::string_view kSearchPoints = " POINTS=";
+inline constexpr std::string_view kSearchRadius = " RADIUS=";
+inline constexpr std::string_view kRealizations = " NREAL=";
+inline constexpr std::string_view kSeed = " SEED=";
+
+// The linear models' category, covariate, quadratic and dependent clauses.
+inline constexpr std::string_view kMissingCategory = " /MISS";
+inline constexpr std::string_view kCovariates = "COVAR ";
+inline constexpr std::string_view kQuadratic = " / QUAD";
+inline constexpr std::string_view kDepend = "DEPEND ";
+
 }  // namespace kvs::stats::text

@@ -196,6 +196,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         o.force = text(), o.maxStep = text();
         kvs::stats::ModelSettings s;
         s.constant = in.ConsumeBool(), s.matrix = in.ConsumeBool(), s.cases = in.ConsumeRandomLengthString(40);
+        s.missingCategory = in.ConsumeBool(), s.quadratic = in.ConsumeBool(), s.exit = in.ConsumeBool();
+        s.covariates = names(in);
         kvs::stats::RepeatedMeasures measures;
         measures.perform = in.ConsumeBool();
         for (auto& factor : measures.factors) factor = {text(), text(), text()};
@@ -280,6 +282,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         check(st::composeTsls(e, dependent, independents, instruments).body);
         check(st::composePairwise({in.ConsumeIntegralInRange(IDC_POST_BONFERRONI - 1, IDC_POST_SCHEFFE + 1)},
                                   names(in)).body);
+        check(st::composePairwise({}, names(in), names(in)).body);
         st::NonlinSettings n;
         n.equation = in.ConsumeRandomLengthString(12000), n.method = in.ConsumeIntegralInRange(43, 47);
         n.save = in.ConsumeIntegralInRange(-1, 7), n.saveValue = value(), n.confidence = value();
@@ -335,7 +338,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         namespace st = kvs::stats;
         const auto value = [&in] { return in.ConsumeRandomLengthString(200); };
         const kvs::Names left = names(in), right = names(in), third = names(in);
-        check(st::composeSpatial({in.ConsumeIntegralInRange(IDC_SPATIAL_VARIO - 1, IDC_SPATIAL_POINT + 1)}, left, right).body);
+        st::SpatialSettings spatial;
+        spatial.analysis = in.ConsumeIntegralInRange(IDC_SPATIAL_VARIO - 1, IDC_SPATIAL_POINT + 1);
+        spatial.lags = in.ConsumeRandomLengthString(20);
+        spatial.radius = in.ConsumeRandomLengthString(20);
+        spatial.seed = in.ConsumeRandomLengthString(20);
+        check(st::composeSpatial(spatial, left, right).body);
         check(st::composePosac({value(), value()}, left).body);
         check(st::composeConjoint({value(), value(), in.ConsumeIntegralInRange(IDC_CONJOINT_POSITIVE - 1, IDC_CONJOINT_NEGATIVE + 1),
                                    in.ConsumeIntegralInRange(IDC_CONJOINT_MONOTONIC - 1, IDC_CONJOINT_POWER + 1), in.ConsumeBool()},

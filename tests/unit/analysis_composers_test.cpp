@@ -13,6 +13,12 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+SpatialSettings spatial(int analysis) {
+    SpatialSettings s;
+    s.analysis = analysis;
+    return s;
+}
+
 TEST(AnalysisComposers, SpatialAnalysesAndTheirFiles) {
     struct Row {
         int analysis;
@@ -25,18 +31,36 @@ TEST(AnalysisComposers, SpatialAnalysesAndTheirFiles) {
                         {IDC_SPATIAL_POINT, "POINT", ""},
                         {0, "VARIO", "VARIO.KVD"}};
     for (const Row& row : rows) {
-        const ProcedureBlock block = composeSpatial({row.analysis}, {"Z"}, {"X", "Y"});
+        const ProcedureBlock block = composeSpatial(spatial(row.analysis), {"Z"}, {"X", "Y"});
         EXPECT_EQ(block.procedure, "SPATIAL");
         EXPECT_EQ(block.saveFile, row.file);
         EXPECT_EQ(block.body.lines, (Lines{"MODEL Z = X+Y", row.verb}));
     }
     // Points need two coordinates, no variable; the other analyses a variable and a coordinate.
-    EXPECT_EQ(composeSpatial({IDC_SPATIAL_POINT}, {}, {"X", "Y", "H"}).body.lines, (Lines{"MODEL X Y H", "POINT"}));
+    EXPECT_EQ(composeSpatial(spatial(IDC_SPATIAL_POINT), {}, {"X", "Y", "H"}).body.lines, (Lines{"MODEL X Y H", "POINT"}));
     const std::string point = "You must select at least X and Y variables for Point calculations.";
-    EXPECT_EQ(composeSpatial({IDC_SPATIAL_POINT}, {"Z"}, {"X"}).body.refusal, point);
-    EXPECT_EQ(composeSpatial({IDC_SPATIAL_VARIO}, {}, {"X", "Y"}).body.refusal, "You must select variables.");
-    EXPECT_EQ(composeSpatial({IDC_SPATIAL_KRIG}, {"Z"}, {}).body.refusal, "You must select variables.");
-    EXPECT_EQ(composeSpatial({IDC_SPATIAL_SIMULATE}, {"Z"}, {"X"}).body.lines, (Lines{"MODEL Z = X", "SIMULATE"}));
+    EXPECT_EQ(composeSpatial(spatial(IDC_SPATIAL_POINT), {"Z"}, {"X"}).body.refusal, point);
+    EXPECT_EQ(composeSpatial(spatial(IDC_SPATIAL_VARIO), {}, {"X", "Y"}).body.refusal, "You must select variables.");
+    EXPECT_EQ(composeSpatial(spatial(IDC_SPATIAL_KRIG), {"Z"}, {}).body.refusal, "You must select variables.");
+    EXPECT_EQ(composeSpatial(spatial(IDC_SPATIAL_SIMULATE), {"Z"}, {"X"}).body.lines, (Lines{"MODEL Z = X", "SIMULATE"}));
+}
+
+TEST(AnalysisComposers, SpatialOptionsOfTheChosenAnalysisOnly) {
+    SpatialSettings s;
+    s.lags = "10", s.points = "8", s.radius = "50", s.seed = "7";
+    const auto line = [&](int analysis) {
+        s.analysis = analysis;
+        return composeSpatial(s, {"Z"}, {"X", "Y"}).body.lines.back();
+    };
+    EXPECT_EQ(line(IDC_SPATIAL_VARIO), "VARIO / NLAGS=10");
+    EXPECT_EQ(line(IDC_SPATIAL_KRIG), "KRIG / POINTS=8 RADIUS=50");
+    EXPECT_EQ(line(IDC_SPATIAL_SIMULATE), "SIMULATE / SEED=7");
+    EXPECT_EQ(line(IDC_SPATIAL_POINT), "POINT");
+    s.lags.clear(), s.lagWidth = "2.5", s.realizations = "100";
+    EXPECT_EQ(line(IDC_SPATIAL_VARIO), "VARIO / WIDTH=2.5");
+    EXPECT_EQ(line(IDC_SPATIAL_SIMULATE), "SIMULATE / NREAL=100 SEED=7");
+    s.lagWidth.clear();
+    EXPECT_EQ(line(IDC_SPATIAL_VARIO), "VARIO");
 }
 
 TEST(AnalysisComposers, PosacAndConjointOptions) {

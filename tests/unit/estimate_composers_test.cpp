@@ -43,6 +43,9 @@ TEST(EstimateComposers, PairwiseTests) {
         EXPECT_EQ(block.body.lines, (Lines{"HYPOTHESIS", line, "TEST"}));
     }
     EXPECT_EQ(composePairwise({}, {}).body.refusal, "You must select category/factor variables.");
+    // Named dependents restrict the comparisons.
+    EXPECT_EQ(composePairwise({IDC_POST_TUKEY}, {"A"}, {"Y1", "Y2"}).body.lines,
+              (Lines{"HYPOTHESIS", "POST A / TUKEY", "DEPEND Y1 Y2", "TEST"}));
 }
 
 TEST(EstimateComposers, NonlinSaveQualifiersAndMethods) {

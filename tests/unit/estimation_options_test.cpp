@@ -184,6 +184,27 @@ TEST(ModelComposers, BlocksAndRefusals) {
     EXPECT_EQ(composeDiscriminant(s, {}, {}, y, {}).body.refusal, "You must select independent variable(s).");
 }
 
+// The clauses of the check boxes and the covariate list, each where the
+// procedure reads it; every dialog of the four can leave the module.
+TEST(ModelComposers, CovariatesMissingQuadraticAndExit) {
+    const Names y = {"Y"}, xs = {"A", "B"};
+    const RepeatedMeasures measures;
+    ModelSettings s;
+    s.covariates = {"AGE", "WT"}, s.missingCategory = true, s.quadratic = true, s.exit = true;
+    EXPECT_EQ(linesOf(composeGlm(218, s, {}, measures, y, xs)),
+              (std::vector<std::string>{"CATEGORY A B /MISS", "COVAR AGE WT", "MODEL Y = CONSTANT+A+B", "ESTIMATE / ",
+                                        "EXIT"}));
+    // GLM has no category line: the ANOVA-only settings write nothing there.
+    EXPECT_EQ(linesOf(composeGlm(219, s, {}, measures, y, xs)),
+              (std::vector<std::string>{"MODEL Y = CONSTANT+A+B", "ESTIMATE / ", "EXIT"}));
+    EXPECT_EQ(linesOf(composeRegression(s, shown(stepwise(true, true), Kind::Regression), y, xs)).back(), "EXIT");
+    EXPECT_EQ(linesOf(composeDiscriminant(s, {}, {}, y, xs)),
+              (std::vector<std::string>{"MODEL Y = CONSTANT+A+B / QUAD", "ESTIMATE / ", "EXIT"}));
+    s.covariates.clear(), s.missingCategory = false, s.exit = false;
+    EXPECT_EQ(linesOf(composeGlm(218, s, {}, measures, y, xs)).front(), "CATEGORY A B");
+    EXPECT_EQ(linesOf(composeGlm(218, s, {}, measures, y, xs)).size(), 3u);
+}
+
 TEST(CancelledRun, ChoicesComeBackTextsStayUnlessNew) {
     EstimationOptions opened;
     opened.tolerance = "1.0e-11";  // shown before the run
