@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/command_queue.h"
+#include "core/edit_insertion.h"
 #include "core/messages.h"
 #include "data/data_texts.h"
 #include "data/function_catalogue.h"
@@ -113,19 +114,7 @@ void ConditionDialog::insertAtCaret(DialogView& view, std::string_view insert, s
     const int field = remembered_;
     if (!isField(field) || !view.has(field) || !view.isEnabled(field)) return;
     const std::size_t bound = field < IDC_ROW_VALUE1 ? kVariableTextBound : kValueTextBound;
-    const std::string current = view.text(field);
-    auto [start, end] = view.editSelection(field);
-    const auto size = static_cast<int>(current.size());
-    start = std::clamp(start, 0, size);
-    end = std::clamp(end, start, size);
-    const auto head = static_cast<std::size_t>(start);
-    std::string next = bounded(current.substr(0, head), bound);
-    next.append(insert);
-    const std::size_t caret = next.size() >= caretFromEnd ? next.size() - caretFromEnd : 0;
-    next.append(current.substr(static_cast<std::size_t>(end)));
-    next = bounded(next, bound);
-    view.setText(field, next);
-    const int at = static_cast<int>(std::min(caret, next.size()));
+    const int at = replaceEditSelection(view, field, insert, bound, caretFromEnd);
     focusField(view, field);
     view.setEditSelection(field, at, at);
     fieldsChanged(view);

@@ -7,6 +7,7 @@
 
 #include "core/descriptor.h"
 #include "core/dialog_defaults.h"
+#include "core/edit_insertion.h"
 #include "core/generic_dialog.h"
 #include "core/join_names.h"
 #include "core/leave_checked_fields.h"
@@ -183,16 +184,7 @@ private:
     void insertIntoEquation(DialogView& view, int list) {
         const std::vector<int> chosen = view.listSelection(list);
         if (chosen.empty()) return;
-        const std::string item = view.listText(list, chosen.front());
-        std::string text = view.text(IDC_FPLOT_EQUATION);
-        auto [start, end] = view.editSelection(IDC_FPLOT_EQUATION);
-        const auto size = static_cast<int>(text.size());
-        start = std::clamp(start, 0, size);
-        end = std::clamp(end, start, size);
-        text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), item);
-        view.setText(IDC_FPLOT_EQUATION, text);
-        const int caret = start + static_cast<int>(item.size());
-        view.setEditSelection(IDC_FPLOT_EQUATION, caret, caret);
+        replaceEditSelection(view, IDC_FPLOT_EQUATION, view.listText(list, chosen.front()));
     }
 
     // The enable rule: Mirror (Dual) with a grouping variable; Matrix columns

@@ -1,9 +1,9 @@
 #include "stats/equation_field.h"
 
-#include <algorithm>
 #include <string>
 
 #include "core/dialog_behaviour.h"
+#include "core/edit_insertion.h"
 #include "resources/common_ids.h"
 #include "resources/estimate_ids.h"
 
@@ -15,17 +15,9 @@ void insertChosen(DialogView& view, int list) {
     if (!view.isEnabled(IDC_EQUATION)) return;
     const std::vector<int> chosen = view.listSelection(list);
     if (chosen.empty()) return;
-    std::string item = view.listText(list, chosen.front());
+    const std::string item = view.listText(list, chosen.front());
     if (list == IDC_SOURCE && !item.empty() && item.front() == '*') return;
-    std::string text = view.text(IDC_EQUATION);
-    auto [start, end] = view.editSelection(IDC_EQUATION);
-    const auto size = static_cast<int>(text.size());
-    start = std::clamp(start, 0, size);
-    end = std::clamp(end, start, size);
-    text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), item);
-    view.setText(IDC_EQUATION, text);
-    const int caret = start + static_cast<int>(item.size());
-    view.setEditSelection(IDC_EQUATION, caret, caret);
+    replaceEditSelection(view, IDC_EQUATION, item);
 }
 
 }  // namespace
