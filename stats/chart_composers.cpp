@@ -182,8 +182,8 @@ ProcedureBlock composePca(const PcaSettings& s, const Names& variables) {
     if (named.refused()) return refusal(named.refusal);
     CommandText line(named.lines.front());
     line.append(text::kOptionsSlash);
-    appendOption(line, text::kUsl, s.upperSpecification);
-    appendOption(line, text::kLsl, s.lowerSpecification);
+    appendOption(line, text::kUsl, s.upperLimit);
+    appendOption(line, text::kLsl, s.lowerLimit);
     return chartBlock(line);
 }
 

@@ -112,8 +112,8 @@ ProcedureBlock composeTsq(const TsqSettings& settings, const Names& variables, c
 
 // Process Control Analysis (280).
 struct PcaSettings {
-    std::string upperSpecification;
-    std::string lowerSpecification;
+    std::string upperLimit;
+    std::string lowerLimit;
 };
 ProcedureBlock composePca(const PcaSettings& settings, const Names& variables);
 

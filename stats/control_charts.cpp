@@ -290,8 +290,8 @@ public:
     PcaDialog()
         : ChartDialog(remembered<PcaSettings>(),
                       Bindings<PcaSettings>()
-                          .number(IDC_QC_USL, &PcaSettings::upperSpecification, kChartValueLimit)
-                          .number(IDC_QC_LSL, &PcaSettings::lowerSpecification, kChartValueLimit)) {}
+                          .number(IDC_QC_USL, &PcaSettings::upperLimit, kChartValueLimit)
+                          .number(IDC_QC_LSL, &PcaSettings::lowerLimit, kChartValueLimit)) {}
 
 private:
     ProcedureBlock composeChart(const PcaSettings& s, const Names& y, const Names&) const override {

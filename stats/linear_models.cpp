@@ -88,7 +88,7 @@ ProcedureBlock composeDiscriminant(const ModelSettings& s, const EstimationOptio
 namespace {
 
 // What sets the four dialogs apart.
-struct ModelSpec {
+struct ModelTraits {
     std::uint16_t id;
     EstimationKind kind;
     std::int32_t dependents;  // how many names "Dependent:" takes
@@ -97,17 +97,17 @@ struct ModelSpec {
     bool cases;               // a number-of-cases field (Regression)
 };
 
-constexpr ModelSpec kAnovaSpec{218, EstimationKind::Glm, 256, true, false, false};
-constexpr ModelSpec kGlmSpec{219, EstimationKind::Glm, 256, true, false, false};
-constexpr ModelSpec kRegressionSpec{221, EstimationKind::Regression, 256, false, false, true};
-constexpr ModelSpec kDiscriminantSpec{222, EstimationKind::Discriminant, 1, false, true, false};
+constexpr ModelTraits kAnovaModel{218, EstimationKind::Glm, 256, true, false, false};
+constexpr ModelTraits kGlmModel{219, EstimationKind::Glm, 256, true, false, false};
+constexpr ModelTraits kRegressionModel{221, EstimationKind::Regression, 256, false, false, true};
+constexpr ModelTraits kDiscriminantModel{222, EstimationKind::Discriminant, 1, false, true, false};
 
-Bindings<ModelSettings> modelBindings(const ModelSpec& spec) {
+Bindings<ModelSettings> modelBindings(const ModelTraits& model) {
     Bindings<ModelSettings> b;
     b.check(IDC_MODEL_CONSTANT, &ModelSettings::constant).check(IDC_MODEL_EXIT, &ModelSettings::exit);
-    if (spec.cases) b.number(IDC_MODEL_CASES, &ModelSettings::cases, kStoredValueLimit);
-    if (spec.id == 218) b.check(IDC_MODEL_MISSING, &ModelSettings::missingCategory);
-    if (spec.kind == EstimationKind::Discriminant) b.check(IDC_MODEL_QUADRATIC, &ModelSettings::quadratic);
+    if (model.cases) b.number(IDC_MODEL_CASES, &ModelSettings::cases, kStoredValueLimit);
+    if (model.id == 218) b.check(IDC_MODEL_MISSING, &ModelSettings::missingCategory);
+    if (model.kind == EstimationKind::Discriminant) b.check(IDC_MODEL_QUADRATIC, &ModelSettings::quadratic);
     return b;
 }
 
@@ -118,14 +118,14 @@ struct OpenedRecords {
     DiscriminantStatistics statistics;
 };
 
-template <const ModelSpec& Spec>
+template <const ModelTraits& Traits>
 class ModelDialog : public ProcedureDialog<ModelSettings> {
 public:
-    ModelDialog() : ProcedureDialog(settings(), modelBindings(Spec)) {}
+    ModelDialog() : ProcedureDialog(settings(), modelBindings(Traits)) {}
 
     std::vector<OwnList> ownLists() override {
-        std::vector<OwnList> lists{{IDC_DEPENDENT, &dependents_, Spec.dependents}};
-        if (Spec.id == 218) lists.push_back({IDC_TARGET2, &covariates_, kCovariateCapacity});
+        std::vector<OwnList> lists{{IDC_DEPENDENT, &dependents_, Traits.dependents}};
+        if (Traits.id == 218) lists.push_back({IDC_TARGET2, &covariates_, kCovariateCapacity});
         return lists;
     }
 
@@ -133,15 +133,15 @@ public:
         ProcedureDialog::addDefaults(table);
         table.record(dependents_);
         table.record(covariates_);
-        addEstimationDefaults(table, Spec.kind);
-        if (Spec.repeated) addRepeatedMeasuresDefaults(table);
-        if (Spec.statistics) addDiscriminantStatisticsDefaults(table);
+        addEstimationDefaults(table, Traits.kind);
+        if (Traits.repeated) addRepeatedMeasuresDefaults(table);
+        if (Traits.statistics) addDiscriminantStatisticsDefaults(table);
     }
 
     void cancel(DialogContext&) override {
-        restoreCancelled(estimationOptions(Spec.kind), opened_.options);
-        if (Spec.repeated) restoreCancelled(repeatedMeasures(), opened_.measures);
-        if (Spec.statistics) discriminantStatistics() = opened_.statistics;
+        restoreCancelled(estimationOptions(Traits.kind), opened_.options);
+        if (Traits.repeated) restoreCancelled(repeatedMeasures(), opened_.measures);
+        if (Traits.statistics) discriminantStatistics() = opened_.statistics;
     }
 
 private:
@@ -151,39 +151,39 @@ private:
     }
 
     void opened(ModelSettings&) override {
-        opened_.options = estimationOptions(Spec.kind);
-        if (Spec.repeated) opened_.measures = repeatedMeasures();
-        if (Spec.statistics) opened_.statistics = discriminantStatistics();
+        opened_.options = estimationOptions(Traits.kind);
+        if (Traits.repeated) opened_.measures = repeatedMeasures();
+        if (Traits.statistics) opened_.statistics = discriminantStatistics();
     }
 
     // The number of cases is asked only of a matrix file.
     void shown(DialogView& view) override {
         matrix_ = IsCurrentUseFileAMatrix() != 0;
-        if (!Spec.cases) return;
+        if (!Traits.cases) return;
         view.enable(IDC_MODEL_CASES, matrix_);
         view.enable(IDC_MODEL_CASES_LABEL, matrix_);
     }
 
     void changed(DialogContext& context, const Notification& n) override {
         DialogView& view = context.view;
-        if (n.clicked(IDC_MODEL_OPTIONS)) runEstimationOptions(view.handle(), Spec.kind);
-        if (Spec.repeated && n.clicked(IDC_MODEL_REPEATED))
+        if (n.clicked(IDC_MODEL_OPTIONS)) runEstimationOptions(view.handle(), Traits.kind);
+        if (Traits.repeated && n.clicked(IDC_MODEL_REPEATED))
             runRepeatedMeasures(view.handle(), listNames(view, IDC_DEPENDENT));
-        if (Spec.statistics && n.clicked(IDC_MODEL_STATISTICS)) runDiscriminantStatistics(view.handle());
+        if (Traits.statistics && n.clicked(IDC_MODEL_STATISTICS)) runDiscriminantStatistics(view.handle());
     }
 
     ProcedureBlock compose(const ModelSettings& settings, const DialogView& view) const override {
         ModelSettings s = settings;
         s.constantEnabled = view.isEnabled(IDC_MODEL_CONSTANT);
         s.matrix = matrix_;
-        if (Spec.id == 218) s.covariates = listNames(view, IDC_TARGET2);
+        if (Traits.id == 218) s.covariates = listNames(view, IDC_TARGET2);
         const Names& dependents = listNames(view, IDC_DEPENDENT);
         const Names& independents = listNames(view, IDC_TARGET1);
-        const EstimationOptions& options = estimationOptions(Spec.kind);
-        if (Spec.kind == EstimationKind::Regression) return composeRegression(s, options, dependents, independents);
-        if (Spec.kind == EstimationKind::Discriminant)
+        const EstimationOptions& options = estimationOptions(Traits.kind);
+        if (Traits.kind == EstimationKind::Regression) return composeRegression(s, options, dependents, independents);
+        if (Traits.kind == EstimationKind::Discriminant)
             return composeDiscriminant(s, options, discriminantStatistics(), dependents, independents);
-        return composeGlm(Spec.id, s, options, repeatedMeasures(), dependents, independents);
+        return composeGlm(Traits.id, s, options, repeatedMeasures(), dependents, independents);
     }
 
     static constexpr std::int32_t kCovariateCapacity = 256;
@@ -196,9 +196,9 @@ private:
 
 }  // namespace
 
-DialogBehaviour& anovaBehaviour() { return soleInstance<ModelDialog<kAnovaSpec>>(); }
-DialogBehaviour& glmBehaviour() { return soleInstance<ModelDialog<kGlmSpec>>(); }
-DialogBehaviour& regressionBehaviour() { return soleInstance<ModelDialog<kRegressionSpec>>(); }
-DialogBehaviour& discriminantBehaviour() { return soleInstance<ModelDialog<kDiscriminantSpec>>(); }
+DialogBehaviour& anovaBehaviour() { return soleInstance<ModelDialog<kAnovaModel>>(); }
+DialogBehaviour& glmBehaviour() { return soleInstance<ModelDialog<kGlmModel>>(); }
+DialogBehaviour& regressionBehaviour() { return soleInstance<ModelDialog<kRegressionModel>>(); }
+DialogBehaviour& discriminantBehaviour() { return soleInstance<ModelDialog<kDiscriminantModel>>(); }
 
 }  // namespace kvs::stats
