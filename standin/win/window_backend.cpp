@@ -7,6 +7,7 @@
 #include "standin/win/control_probe.h"
 #include "standin/win/kernel_control.h"
 #include "standin/win/window_roles.h"
+#include "resources/common_ids.h"
 #include "win32/control_reading.h"
 
 namespace kvs::standin {
@@ -137,7 +138,7 @@ bool isEditWindow(HWND window) {
 }
 
 // The buttons that end a dialog: leaving a field for them is not checked.
-bool endsDialog(int id) { return id == IDOK || id == IDCANCEL || id == 1001; }
+bool endsDialog(int id) { return id == IDOK || id == IDCANCEL || id == IDC_CONTINUE; }
 
 }  // namespace
 
