@@ -33,6 +33,19 @@
 #define IDC_REMOVE_VARIABLE  244
 #define IDC_VARIABLE_LIST    245
 
+/* Reordering a target list whose order matters. */
+#define IDC_MOVE_UP          966
+#define IDC_MOVE_DOWN        967
+/* Controls the library adds to every variable dialog when it opens: the
+   command preview with its Copy button, and a search box under each source
+   list with its label. */
+#define IDC_COMMAND_PREVIEW  960
+#define IDC_COPY_COMMANDS    961
+#define IDC_SOURCE_FILTER    962
+#define IDC_SOURCE2_FILTER   963
+#define IDC_SOURCE_FILTER_LABEL  964
+#define IDC_SOURCE2_FILTER_LABEL 965
+
 /* System commands the dialogs answer with help. */
 #define IDM_HELP_CONTENTS   801
 #define IDM_HELP_SEARCH     802
