@@ -36,6 +36,12 @@ public:
         return true;
     }
 
+    std::optional<Composition> preview(DialogContext& context) override {
+        Record settings = record_;
+        bindings_.read(context.view, settings);
+        return previewOf(context.view, settings);
+    }
+
     void addDefaults(DefaultsTable& table) override { table.record(record_); }
 
 protected:
@@ -48,6 +54,9 @@ protected:
     virtual bool prepare(DialogView&, Record&) { return true; }
     // After the lines were pushed.
     virtual void accepted() {}
+    // What OK would push for these settings, asking no one: the composition,
+    // unless prepare adds a step of its own (a SAVE line, a refusal).
+    virtual Composition previewOf(const DialogView& view, Record& settings) const { return compose(settings, view); }
 
     Record& record_;
     Bindings<Record> bindings_;

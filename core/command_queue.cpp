@@ -73,6 +73,8 @@ void flush() {
 }
 
 std::int32_t count() { return used; }
+
+const char* commandAt(std::int32_t index) { return index >= 0 && index < used ? pairs[index].command : nullptr; }
 std::int32_t capacity() { return room; }
 void clearCount() { used = 0; }
 

@@ -20,6 +20,8 @@ char* copyString(const char* text);
 void flush();
 
 std::int32_t count();
+// The command of queued pair index (0 <= index < count()), null for none.
+const char* commandAt(std::int32_t index);
 std::int32_t capacity();
 void clearCount();
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
+#include "core/composition.h"
 #include "core/seam.h"
 
 namespace kvs {
@@ -59,6 +61,12 @@ public:
     // OK or Continue (buttonId) was clicked: true lets the dialog close with
     // the selection kept, false keeps it open.
     virtual bool accept(DialogContext& context, int buttonId) = 0;
+    // What OK would hand the host now, composed from the controls as OK
+    // composes it but without asking the user anything, keeping anything or
+    // pushing: the lines, with the SAVE line of the file proposed when one is
+    // chosen at OK, or the refusal's message. Nothing for a dialog that pushes
+    // no command, which then shows no preview.
+    virtual std::optional<Composition> preview(DialogContext&) { return std::nullopt; }
     // A control other than the shared ones and OK reported an event.
     virtual void notify(DialogContext&, const Notification&) {}
     // A list or its Add or Remove button was used (names moved, or a

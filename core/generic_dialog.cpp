@@ -1,7 +1,9 @@
 #include "core/generic_dialog.h"
 
 #include <algorithm>
+#include <new>
 
+#include "core/command_queue.h"
 #include "core/help_requests.h"
 #include "core/library_state.h"
 #include "core/list_transfer.h"
@@ -107,12 +109,52 @@ int GenericDialog::onInit(DialogView& view) {
         focus = behaviour_->init(context);
     }
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
+    installPreview(view);
     if (focus) view.setFocus(focus);
     return focus;
 }
 
 void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
     if (closing_) return;
+    if (CommandPreview::owns(controlId)) {
+        if (controlId == IDC_COPY_COMMANDS && notifyCode == kButtonClicked) preview_.copy(view);
+        return;
+    }
+    handleCommand(view, controlId, notifyCode);
+    if (!closing_) refreshPreview(view);
+}
+
+// A dialog that composes a command shows it from the start; the dialog grows
+// to hold the preview and is centred again.
+void GenericDialog::installPreview(DialogView& view) {
+    if (!behaviour_) return;
+    DialogContext context{view, *this};
+    std::optional<Composition> first = behaviour_->preview(context);
+    if (!first || !preview_.install(view)) return;
+    view.centre();
+    preview_.show(view, first);
+}
+
+// Lines a refused OK left queued (a SAVE line the step pushed before the
+// refusal) reach the host with the next OK's, so the preview shows them too.
+void GenericDialog::refreshPreview(DialogView& view) {
+    if (!preview_.installed() || !behaviour_) return;
+    DialogContext context{view, *this};
+    try {
+        std::optional<Composition> next = behaviour_->preview(context);
+        if (next && !next->refused() && queue::count() > 0) {
+            std::vector<std::string> queued;
+            for (std::int32_t i = 0; i < queue::count(); ++i)
+                if (const char* command = queue::commandAt(i)) queued.emplace_back(command);
+            next->lines.insert(next->lines.begin(), queued.begin(), queued.end());
+        }
+        preview_.show(view, next);
+    } catch (const std::bad_alloc&) {
+        preview_.show(view, std::nullopt);
+    }
+}
+
+void GenericDialog::handleCommand(DialogView& view, int controlId, int notifyCode) {
     const auto capacity = [this](int id) { return targetCapacity(id); };
     DialogContext context{view, *this};
     if (controlId != kIdOk && controlId != kIdCancel &&

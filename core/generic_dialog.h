@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/command_preview.h"
 #include "core/descriptor.h"
 #include "core/dialog_behaviour.h"
 #include "core/seam.h"
@@ -45,9 +46,12 @@ private:
     // the second source list when the dialog has one.
     const VariableCatalogue& catalogueOf(const DialogView& view, const Target& target) const;
     void prepareTargets(DialogView& view);
+    void handleCommand(DialogView& view, int controlId, int notifyCode);
     void close(DialogView& view, int result);
     void help(DialogView& view);
     void resetAll(DialogView& view);
+    void installPreview(DialogView& view);
+    void refreshPreview(DialogView& view);
     std::uint32_t helpContext() const;
 
     const DispatchRow& row_;
@@ -57,6 +61,7 @@ private:
     std::vector<Target> targets_;
     VariableCatalogue sourceCatalogue_;
     VariableCatalogue secondCatalogue_;
+    CommandPreview preview_;
     bool closing_ = false;
 };
 

@@ -23,6 +23,19 @@ std::vector<std::string> blockLines(const ProcedureBlock& block, bool moduleActi
     return lines;
 }
 
+Composition previewBlock(const DialogView& view, const ProcedureBlock& block) {
+    if (block.body.refused()) return block.body;
+    std::string save;
+    if (!block.saveFile.empty()) {
+        const std::string proposed = proposedSaveLine(view, block.saveFile, block.saveQualifier, block.saveUnasked);
+        if (!proposed.empty()) save = std::string(block.saveFile);
+    }
+    const std::string keyword(block.procedure);
+    Composition preview;
+    preview.lines = blockLines(block, IsThisModuleNameActive(keyword.c_str()) != 0, save);
+    return preview;
+}
+
 std::string blockTitle(WindowRef dialog) { return ui().windowTitle(dialog, kTitleCapacity); }
 
 void pushProcedureLine(std::string_view procedure, const std::string& title) {

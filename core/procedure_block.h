@@ -31,6 +31,10 @@ struct ProcedureBlock {
 // it is not empty, then the body. Empty when the block is refused.
 std::vector<std::string> blockLines(const ProcedureBlock& block, bool moduleActive, std::string_view savePath);
 
+// The block as deliverBlock would push it, asking no one: the SAVE line
+// names the proposed file. The refusal when the block is refused.
+Composition previewBlock(const DialogView& view, const ProcedureBlock& block);
+
 // A dialog's caption as the block's title: at most 260 characters.
 std::string blockTitle(WindowRef dialog);
 

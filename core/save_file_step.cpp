@@ -27,6 +27,19 @@ std::optional<std::string> chooseSaveLine(DialogView& view, std::string_view def
     return saveLine(savedFileName(), qualifier);
 }
 
+std::string proposedSaveLine(const DialogView& view, std::string_view defaultName, std::string_view qualifier,
+                             bool unasked) {
+    if (!unasked && !view.isChecked(IDC_SAVEFILE)) return std::string();
+    return saveLine(defaultName, qualifier);
+}
+
+Composition withProposedSave(const DialogView& view, std::string_view defaultName, Composition composition) {
+    if (composition.refused()) return composition;
+    std::string save = proposedSaveLine(view, defaultName);
+    if (!save.empty()) composition.lines.insert(composition.lines.begin(), std::move(save));
+    return composition;
+}
+
 bool runSaveFileStep(DialogView& view, std::string_view defaultName) {
     const std::optional<std::string> line = chooseSaveLine(view, defaultName);
     if (!line) return false;

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/composition.h"
 #include "core/seam.h"
 
 namespace kvs {
@@ -19,6 +20,15 @@ std::string saveLine(std::string_view path, std::string_view qualifier = {});
 // the OK is then refused.
 std::optional<std::string> chooseSaveLine(DialogView& view, std::string_view defaultName,
                                           std::string_view qualifier = {}, bool unasked = false);
+
+// What the step would give without asking: the SAVE line of the proposed
+// file when the box is ticked (or the dialog saves unasked), else empty.
+std::string proposedSaveLine(const DialogView& view, std::string_view defaultName, std::string_view qualifier = {},
+                             bool unasked = false);
+
+// The composition with the proposed SAVE line in front of its lines, as
+// runSaveFileStep and deliver would push them.
+Composition withProposedSave(const DialogView& view, std::string_view defaultName, Composition composition);
 
 // The data dialogs' form: queues the SAVE line itself. False on a cancel.
 bool runSaveFileStep(DialogView& view, std::string_view defaultName);

@@ -44,6 +44,25 @@ inline constexpr int kComboEditChange = 5; // CBN_EDITCHANGE
 // The kinds of control whose notifications the logic tells apart.
 enum class ControlType { Button, Edit, ListBox, ComboBox, Other };
 
+// A rectangle in dialog units, the units of the templates.
+struct DialogRect {
+    int x = 0, y = 0, width = 0, height = 0;
+    int right() const { return x + width; }
+    int bottom() const { return y + height; }
+};
+
+// A control the library adds to an open dialog: a static label, a push
+// button, a one-line edit, or a read-only multi-line text with a scroll bar.
+enum class AddedKind { Label, PushButton, Edit, ReadOnlyText };
+
+struct AddedControl {
+    AddedKind kind = AddedKind::Label;
+    int id = 0;
+    std::string text;
+    DialogRect rect;
+    int after = 0;  // the control it follows in tab order; 0: after all
+};
+
 // The controls of one open dialog, addressed by control id. Operations on an
 // id the dialog does not have do nothing and read as empty.
 class DialogView {
@@ -126,6 +145,17 @@ public:
     virtual void comboClear(int id) = 0;
     virtual int comboSelection(int id) const = 0;
     virtual void comboSelect(int id, int index) = 0;
+
+    // Layout in dialog units: the controls in tab order, where one is, the
+    // size of the client area; moving a control, growing the dialog and
+    // adding a control. A view that cannot lay out reads as empty and adds
+    // nothing (false).
+    virtual std::vector<int> controlIds() const { return {}; }
+    virtual DialogRect controlRect(int id) const { (void)id; return {}; }
+    virtual DialogRect clientRect() const { return {}; }
+    virtual void moveControl(int id, const DialogRect& rect) { (void)id, (void)rect; }
+    virtual void growClient(int width, int height) { (void)width, (void)height; }
+    virtual bool addControl(const AddedControl& control) { (void)control; return false; }
 
     // The dialog's own title.
     virtual void setCaption(std::string_view text) = 0;
@@ -292,6 +322,13 @@ public:
     // live as long as the dialog.
     virtual void attachNumericField(DialogView& view, NumericField& field, unsigned repeatMilliseconds) {
         (void)view, (void)field, (void)repeatMilliseconds;
+    }
+
+    // Puts text on the clipboard (CF_TEXT, lines ending in "\r\n"); false
+    // when the clipboard could not be had.
+    virtual bool copyText(WindowRef owner, std::string_view text) {
+        (void)owner, (void)text;
+        return false;
     }
 
     // Sends the dialog the user request (WM_USER, code, value) and returns

@@ -73,6 +73,14 @@ public:
     bool accept(DialogContext& context, int) override { return ok(context.view); }
     void addDefaults(DefaultsTable& table) override { table.record(appendState); }
 
+    // The line is pushed even with a name missing, so it is what OK gives.
+    std::optional<Composition> preview(DialogContext& context) override {
+        CommandText line;
+        composeAppendLine(nameBlock(context.view, IDC_APPEND_FILE1), nameBlock(context.view, IDC_APPEND_FILE2),
+                          appendState.liveOption, line);
+        return withProposedSave(context.view, text::kAppendDefaultFile, Composition().add(line));
+    }
+
 private:
     static void browse(DialogView& view, const std::string& remembered, int fieldId) {
         std::string chosen;
@@ -120,6 +128,12 @@ public:
     bool accept(DialogContext& context, int) override { return ok(context.view); }
     void addDefaults(DefaultsTable& table) override { table.record(mergeState); }
 
+    std::optional<Composition> preview(DialogContext& context) override {
+        return withProposedSave(context.view, "",
+                                mergeLine(context.view, nameBlock(context.view, IDC_MERGE_FILE1),
+                                          nameBlock(context.view, IDC_MERGE_FILE2)));
+    }
+
     std::uint32_t helpContext(std::uint16_t) const override { return kMergeHelpContext; }
 
 private:
@@ -141,17 +155,22 @@ private:
         if (!runSaveFileStep(view, "")) return false;
         mergeState.file1 = nameBlock(view, IDC_MERGE_FILE1);
         mergeState.file2 = nameBlock(view, IDC_MERGE_FILE2);
+        const Composition merge = mergeLine(view, mergeState.file1, mergeState.file2);
+        if (merge.refused()) {
+            showFileNotSpecified(view);
+            return false;
+        }
+        return deliver(view.handle(), merge);
+    }
+
+    static Composition mergeLine(const DialogView& view, std::string_view file1, std::string_view file2) {
         CommandText names1, names2;
         joinNames(view, IDC_TARGET1, names1, ' ');
         joinNames(view, IDC_TARGET2, names2, ' ');
         CommandText line;
-        if (!composeMergeLine(mergeState.file1, names1.str(), mergeState.file2, names2.str(), keyFlag(), keyText(),
-                              line)) {
-            showFileNotSpecified(view);
-            return false;
-        }
-        queue::push(line.c_str(), nullptr);
-        return true;
+        if (!composeMergeLine(file1, names1.str(), file2, names2.str(), keyFlag(), keyText(), line))
+            return Composition::refuse(text::kFileNotSpecified);
+        return Composition().add(line);
     }
 };
 

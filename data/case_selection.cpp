@@ -43,8 +43,7 @@ public:
     }
 
 protected:
-    bool acceptRows(DialogView& view) override {
-        ConditionState& s = conditionState();
+    void readRows(const DialogView& view, ConditionState& s) const override {
         s.selectOff = view.isChecked(IDC_SELECT_OFF);
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
         for (int row = 0; row < kConditionRows; ++row) {
@@ -54,12 +53,12 @@ protected:
             r.op = view.comboSelection(operatorBox(row));
         }
         s.complete = view.isChecked(IDC_SELECT_COMPLETE);
-        if (s.selectOff) {
-            queue::push(std::string(text::kSelectOff).c_str(), nullptr);
-            return true;
-        }
+    }
+
+    Composition composeRows(const ConditionState& s) const override {
+        if (s.selectOff) return Composition().add(text::kSelectOff);
         CommandText line;
-        return deliverLine(composeSelect(s, line, false), line);
+        return lineOrIncomplete(composeSelect(s, line, false), line);
     }
 
     // A row is open only while every row above it is complete. The

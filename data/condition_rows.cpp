@@ -120,7 +120,22 @@ void ConditionDialog::insertAtCaret(DialogView& view, std::string_view insert, s
     fieldsChanged(view);
 }
 
-bool ConditionDialog::accept(DialogContext& context, int) { return acceptRows(context.view); }
+bool ConditionDialog::accept(DialogContext& context, int) {
+    ConditionState& state = conditionState();
+    readRows(context.view, state);
+    const Composition line = composeRows(state);
+    if (line.refused()) {
+        showStop(ui().focusWindow(), line.refusal);
+        return false;
+    }
+    return deliver(context.view.handle(), line);
+}
+
+std::optional<Composition> ConditionDialog::preview(DialogContext& context) {
+    ConditionState state = conditionState();
+    readRows(context.view, state);
+    return composeRows(state);
+}
 
 void ConditionDialog::clearFields(DialogView& view, int row) const {
     view.setText(variableField(row), "");
@@ -128,13 +143,8 @@ void ConditionDialog::clearFields(DialogView& view, int row) const {
     view.setText(valueField(row), "");
 }
 
-bool ConditionDialog::deliverLine(bool composed, const CommandText& line) {
-    if (!composed) {
-        showStop(ui().focusWindow(), text::kIncomplete);
-        return false;
-    }
-    queue::push(line.c_str(), nullptr);
-    return true;
+Composition ConditionDialog::lineOrIncomplete(bool composed, const CommandText& line) {
+    return composed ? Composition().add(line) : Composition::refuse(text::kIncomplete);
 }
 
 void ConditionDialog::readFields(const DialogView& view, int row, ConditionRow& r) {

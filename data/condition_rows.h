@@ -30,15 +30,19 @@ int connectorBox(int row);    // 167..169 for rows 1 to 3 (0-based), 0 for row 0
 // Add 6 and 8, Add 153 and double clicks insert at its caret.
 class ConditionDialog : public DialogBehaviour {
 public:
+    // OK keeps what the rows show, even when the line is refused.
     bool accept(DialogContext& context, int buttonId) override;
+    std::optional<Composition> preview(DialogContext& context) override;
     void notify(DialogContext& context, const Notification& n) override;
 
 protected:
     // operatorRows: how many rows carry an operator drop-down.
     explicit ConditionDialog(int operatorRows) : operatorRows_(operatorRows) {}
 
-    // The OK button of the dialog: true closes it.
-    virtual bool acceptRows(DialogView& view) = 0;
+    // The dialog's rows and choices as the controls show them.
+    virtual void readRows(const DialogView& view, ConditionState& state) const = 0;
+    // The line OK pushes, or "incomplete" when the rows do not make one.
+    virtual Composition composeRows(const ConditionState& state) const = 0;
     // A variable or value field's text changed, by the user or by an insertion.
     virtual void fieldsChanged(DialogView&) {}
     // A connector (or the IF choice) was chosen.
@@ -50,8 +54,8 @@ protected:
     // Empties a row's fields and puts its operator back to the first entry
     // when the row has one.
     void clearFields(DialogView& view, int row) const;
-    // Pushes a composed line, or shows "incomplete" when composing failed.
-    static bool deliverLine(bool composed, const CommandText& line);
+    // The composed line, or the "incomplete" refusal when composing failed.
+    static Composition lineOrIncomplete(bool composed, const CommandText& line);
     // Sets up the lists' Add buttons and the catalogue; focuses row 1's variable.
     int initShared(DialogView& view);
     void resetShared(DialogView& view);

@@ -31,12 +31,14 @@ public:
 protected:
     bool isField(int id) const override { return id == IDC_ROW_VARIABLE1 || id == IDC_ROW_VALUE1; }
 
-    bool acceptRows(DialogView& view) override {
-        ConditionState& s = conditionState();
+    void readRows(const DialogView& view, ConditionState& s) const override {
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
         readFields(view, 0, s.rows[0]);
+    }
+
+    Composition composeRows(const ConditionState& s) const override {
         CommandText line;
-        return deliverLine(composeLet(s, line), line);
+        return lineOrIncomplete(composeLet(s, line), line);
     }
 };
 
@@ -77,8 +79,7 @@ public:
     }
 
 protected:
-    bool acceptRows(DialogView& view) override {
-        ConditionState& s = conditionState();
+    void readRows(const DialogView& view, ConditionState& s) const override {
         s.functionType = view.comboSelection(IDC_FUNCTION_TYPE);
         s.ifNot = view.comboSelection(IDC_IF_CHOICE) == 1;
         for (int row = 0; row < kConditionRows; ++row) {
@@ -87,8 +88,11 @@ protected:
             if (row < 3) r.op = view.comboSelection(operatorBox(row));
             if (row == 1 || row == 2) s.thenConnectors[thenSlot(row)] = view.comboSelection(connectorBox(row));
         }
+    }
+
+    Composition composeRows(const ConditionState& s) const override {
         CommandText line;
-        return deliverLine(composeIfThenLet(s, line), line);
+        return lineOrIncomplete(composeIfThenLet(s, line), line);
     }
 
     void connectorChosen(DialogView& view, int row) override {

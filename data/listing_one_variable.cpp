@@ -21,12 +21,12 @@ public:
     bool accept(DialogContext& context, int) override {
         DialogView& view = context.view;
         setOff(view.isChecked(offBox_));
-        Names variable;
-        if (view.listCount(IDC_ONE_VARIABLE) > 0) variable.push_back(view.listText(IDC_ONE_VARIABLE, 0));
-        if (!deliver(view.handle(), composeOneVariable(keyword_, isOff(), variable))) return false;
+        if (!deliver(view.handle(), composition(view))) return false;
         library().dataCommand = 1;
         return true;
     }
+
+    std::optional<Composition> preview(DialogContext& context) override { return composition(context.view); }
 
 protected:
     OneVariableDialog(std::string_view keyword, int offBox) : keyword_(keyword), offBox_(offBox) {}
@@ -34,6 +34,12 @@ protected:
     virtual void setOff(bool off) = 0;
 
 private:
+    Composition composition(const DialogView& view) const {
+        Names variable;
+        if (view.listCount(IDC_ONE_VARIABLE) > 0) variable.push_back(view.listText(IDC_ONE_VARIABLE, 0));
+        return composeOneVariable(keyword_, view.isChecked(offBox_), variable);
+    }
+
     std::string_view keyword_;
     int offBox_;
 };

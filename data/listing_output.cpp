@@ -52,10 +52,23 @@ public:
     // A blank first line queues nothing; the dialog still closes.
     bool accept(DialogContext& context, int) override {
         readLines(context.view, noteLines, kNoteFieldLimit);
-        CommandText line;
-        if (composeNote(noteLines, line)) deliver(context.view.handle(), Composition().add(line));
+        deliver(context.view.handle(), composition(noteLines));
         return true;
     }
+
+    std::optional<Composition> preview(DialogContext& context) override {
+        auto lines = noteLines;
+        readLines(context.view, lines, kNoteFieldLimit);
+        return composition(lines);
+    }
+
+private:
+    static Composition composition(const TextLines& lines) {
+        CommandText line;
+        return composeNote(lines, line) ? Composition().add(line) : Composition();
+    }
+
+public:
 
     void addDefaults(DefaultsTable& table) override { table.record(noteLines); }
 };
@@ -69,12 +82,28 @@ public:
     }
 
     bool accept(DialogContext& context, int) override {
-        readLines(context.view, pageTitle.titles, kTitleFieldLimit);
-        pageTitle.off = context.view.isChecked(IDC_TITLE_OFF);
-        CommandText line;
-        composePageTitle(pageTitle.titles, pageTitle.off, line);
-        return deliver(context.view.handle(), Composition().add(line));
+        read(context.view, pageTitle);
+        return deliver(context.view.handle(), composition(pageTitle));
     }
+
+    std::optional<Composition> preview(DialogContext& context) override {
+        auto settings = pageTitle;
+        read(context.view, settings);
+        return composition(settings);
+    }
+
+private:
+    static void read(const DialogView& view, PageTitleSettings& settings) {
+        readLines(view, settings.titles, kTitleFieldLimit);
+        settings.off = view.isChecked(IDC_TITLE_OFF);
+    }
+    static Composition composition(const PageTitleSettings& settings) {
+        CommandText line;
+        composePageTitle(settings.titles, settings.off, line);
+        return Composition().add(line);
+    }
+
+public:
 
     void addDefaults(DefaultsTable& table) override { table.record(pageTitle); }
 };
@@ -96,6 +125,10 @@ private:
     }
     Composition compose(const PrintSettings& settings, const DialogView&) const override {
         return composePrintFormat(settings);
+    }
+    Composition previewOf(const DialogView& view, PrintSettings& settings) const override {
+        settings.decimalsNumber = leadingNumber(settings.decimals);
+        return compose(settings, view);
     }
 };
 

@@ -28,6 +28,10 @@ public:
         return true;
     }
 
+    std::optional<Composition> preview(DialogContext& context) override {
+        return composeProgram(keyword_, bounded(context.view.text(IDC_PROGRAM_TEXT), kProgramTextLimit));
+    }
+
     void addDefaults(DefaultsTable& table) override { table.record(remembered_); }
 
 private:

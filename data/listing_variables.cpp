@@ -111,6 +111,11 @@ public:
         library().dataCommand = 1;
         return true;
     }
+
+    std::optional<Composition> preview(DialogContext& context) override {
+        const int method = context.view.isChecked(IDC_STANDARDIZE_RANGE) ? IDC_STANDARDIZE_RANGE : IDC_STANDARDIZE_SD;
+        return withProposedSave(context.view, "", composeStandardize(method, listNames(context.view, IDC_TARGET1)));
+    }
 };
 
 class OrderDialog : public DialogBehaviour {
@@ -119,6 +124,10 @@ public:
         if (!deliver(context.view.handle(), composeOrder(listNames(context.view, IDC_TARGET1)))) return false;
         library().dataCommand = 1;
         return true;
+    }
+
+    std::optional<Composition> preview(DialogContext& context) override {
+        return composeOrder(listNames(context.view, IDC_TARGET1));
     }
 };
 

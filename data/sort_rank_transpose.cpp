@@ -41,6 +41,10 @@ private:
     Composition compose(const SortSettings& settings, const DialogView& view) const override {
         return composeSort(listNames(view, IDC_TARGET1), settings.confirmedOrder);
     }
+    Composition previewOf(const DialogView& view, SortSettings& settings) const override {
+        settings.confirmedOrder = settings.liveOrder;
+        return withProposedSave(view, "", compose(settings, view));
+    }
 };
 
 // Rank and Transpose: the "Save file" step, then one line from list 10.
@@ -51,6 +55,10 @@ public:
     bool accept(DialogContext& context, int) override {
         return runSaveFileStep(context.view, "") &&
                deliver(context.view.handle(), composer_(listNames(context.view, IDC_TARGET1)));
+    }
+
+    std::optional<Composition> preview(DialogContext& context) override {
+        return withProposedSave(context.view, "", composer_(listNames(context.view, IDC_TARGET1)));
     }
 
     void reset(DialogContext& context) override { context.view.setChecked(IDC_SAVEFILE, false); }

@@ -48,6 +48,7 @@ public:
     }
 
     bool accept(DialogContext& context, int) override { return acceptLabels(context.view); }
+    std::optional<Composition> preview(DialogContext& context) override { return composition(context.view); }
 
     void reset(DialogContext& context) override {
         init(context);
@@ -102,14 +103,15 @@ private:
     }
 
     bool acceptLabels(DialogView& view) {
-        const std::string variable = variableOf(view);
-        if (variable.empty()) {
-            showStop(view.handle(), kvs::text::kSelectVariables);
-            return false;
-        }
-        queue::push(composeLabelLine(variable, labels_).c_str(), nullptr);
+        if (!deliver(view.handle(), composition(view))) return false;
         library().dataCommand = 1;
         return true;
+    }
+
+    Composition composition(const DialogView& view) const {
+        const std::string variable = variableOf(view);
+        if (variable.empty()) return Composition::refuse(kvs::text::kSelectVariables);
+        return Composition().add(composeLabelLine(variable, labels_));
     }
 
     std::vector<ValueLabel> labels_;

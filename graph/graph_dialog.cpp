@@ -76,6 +76,13 @@ public:
         return deliver(view.handle(), composition);
     }
 
+    // The builder reads the dialog's controls and its option records as OK
+    // does; only the host's dropping of what it holds is left out.
+    std::optional<Composition> preview(DialogContext& context) override {
+        const StoredOptions options(spec_.id, context.view);
+        return spec_.compose(spec_.id, context.view, extras(context.view), options);
+    }
+
     void notify(DialogContext& context, const Notification& n) override {
         DialogView& view = context.view;
         if (n.event == Event::Clicked && n.controlId >= kFirstOptionButton && n.controlId <= kLastOptionButton) {

@@ -285,6 +285,8 @@ void HeadlessBackend::pressTab() {
 // Enter: a number field that reports its changes checks itself; otherwise
 // the focused push button or else the dialog's default button (OK when the
 // template names none) is pressed, and the focus stays where it is.
+std::string HeadlessBackend::clipboardText() { return ui_.clipboard(); }
+
 void HeadlessBackend::pressEnter() {
     DialogWindow* window = dialog();
     if (!window) return;

@@ -52,6 +52,7 @@ public:
     std::optional<long> userWord() override;
     void pressTab() override;
     void pressEnter() override;
+    std::string clipboardText() override;
     void settle() override;
 
 private:
@@ -84,6 +85,8 @@ public:
     static long liveGlobalBlocks();
     // See HeadlessUi::setStrict.
     void setStrict(bool strict) { ui_.setStrict(strict); }
+    // See Engine::setMarkPreviews.
+    void setMarkPreviews(bool on) { engine_.setMarkPreviews(on); }
 
 private:
     void emit(const std::string& line);

@@ -98,7 +98,8 @@ std::string withoutMnemonics(std::string_view text) {
 }
 
 HeadlessDialog::HeadlessDialog(const DialogTemplate& dialogTemplate)
-    : handle_(nextHandle()), templateName_(dialogTemplate.name), caption_(dialogTemplate.caption) {
+    : handle_(nextHandle()), templateName_(dialogTemplate.name), caption_(dialogTemplate.caption),
+      width_(dialogTemplate.w), height_(dialogTemplate.h) {
     controls_.reserve(dialogTemplate.controls.size());
     for (const ControlTemplate& def : dialogTemplate.controls) {
         ControlState state;
@@ -107,6 +108,67 @@ HeadlessDialog::HeadlessDialog(const DialogTemplate& dialogTemplate)
         state.enabled = !def.disabled();
         controls_.push_back(std::move(state));
     }
+}
+
+std::vector<int> HeadlessDialog::controlIds() const {
+    std::vector<int> ids;
+    ids.reserve(controls_.size());
+    for (const ControlState& c : controls_) ids.push_back(c.def.id);
+    return ids;
+}
+
+DialogRect HeadlessDialog::controlRect(int id) const {
+    const ControlState* c = find(id);
+    return c ? DialogRect{c->def.x, c->def.y, c->def.w, c->def.h} : DialogRect{};
+}
+
+void HeadlessDialog::moveControl(int id, const DialogRect& rect) {
+    if (ControlState* c = find(id)) {
+        c->def.x = rect.x, c->def.y = rect.y, c->def.w = rect.width, c->def.h = rect.height;
+    }
+}
+
+void HeadlessDialog::growClient(int width, int height) {
+    width_ += width;
+    height_ += height;
+}
+
+// Built as the resource compiler builds the same statements: a LTEXT, a
+// PUSHBUTTON, an EDITTEXT, and an EDITTEXT with ES_MULTILINE | ES_READONLY.
+bool HeadlessDialog::addControl(const AddedControl& added) {
+    if (find(added.id)) return false;
+    constexpr std::uint32_t kChild = 0x50000000u;  // WS_CHILD | WS_VISIBLE
+    constexpr std::uint32_t kTabStop = 0x00010000u, kBorder = 0x00800000u;
+    ControlState state;
+    ControlTemplate& def = state.def;
+    def.id = added.id;
+    def.text = added.text;
+    def.x = added.rect.x, def.y = added.rect.y, def.w = added.rect.width, def.h = added.rect.height;
+    switch (added.kind) {
+    case AddedKind::Label:
+        def.kind = ControlKind::Static, def.className = "Static", def.style = kChild;
+        break;
+    case AddedKind::PushButton:
+        def.kind = ControlKind::Button, def.className = "Button", def.style = kChild | kTabStop;
+        break;
+    case AddedKind::Edit:
+        def.kind = ControlKind::Edit, def.className = "Edit", def.style = kChild | kTabStop | kBorder | 0x80u;
+        break;
+    case AddedKind::ReadOnlyText:
+        // ES_MULTILINE | ES_AUTOVSCROLL | ES_READONLY, WS_VSCROLL
+        def.kind = ControlKind::Edit, def.className = "Edit";
+        def.style = kChild | kTabStop | kBorder | 0x00200000u | 0x4u | 0x40u | 0x800u;
+        break;
+    }
+    state.text = added.text;
+    auto at = controls_.end();
+    if (added.after) {
+        const auto previous = std::find_if(controls_.begin(), controls_.end(),
+                                           [&](const ControlState& c) { return c.def.id == added.after; });
+        if (previous != controls_.end()) at = previous + 1;
+    }
+    controls_.insert(at, std::move(state));
+    return true;
 }
 
 const ControlState* HeadlessDialog::find(int id) const {

@@ -82,6 +82,12 @@ public:
     void comboSelect(int id, int index) override;
     std::pair<int, int> editSelection(int id) const override;
     void setEditSelection(int id, int start, int end) override;
+    std::vector<int> controlIds() const override;
+    DialogRect controlRect(int id) const override;
+    DialogRect clientRect() const override { return {0, 0, width_, height_}; }
+    void moveControl(int id, const DialogRect& rect) override;
+    void growClient(int width, int height) override;
+    bool addControl(const AddedControl& control) override;
     void centre() override { centred_ = true; }
     void end(int result) override;
 
@@ -130,6 +136,7 @@ private:
     std::string templateName_;
     std::string caption_;
     std::vector<ControlState> controls_;
+    int width_ = 0, height_ = 0;  // the client area in dialog units
     std::size_t listCapacity_ = kUnlimited;
     int focus_ = 0;
     bool centred_ = false;

@@ -204,6 +204,11 @@ std::intptr_t HeadlessUi::userRequest(DialogView& view, int code, std::intptr_t 
     return 1;
 }
 
+bool HeadlessUi::copyText(WindowRef, std::string_view text) {
+    clipboard_ = std::string(text);
+    return true;
+}
+
 int HeadlessUi::messageBox(const MessageRequest& request) {
     MessageWindow window{request, 0};
     const std::string caption = request.caption ? *request.caption : kDefaultMessageCaption;

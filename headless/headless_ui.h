@@ -82,6 +82,8 @@ public:
     // Strict: a dialog's logic touching a control its template lacks prints
     // an error line instead of being ignored.
     void setStrict(bool strict) { strict_ = strict; }
+    bool copyText(WindowRef owner, std::string_view text) override;
+    const std::string& clipboard() const { return clipboard_; }
 
     // The window statements act on; none when nothing is open.
     std::optional<Window> top() const;
@@ -152,6 +154,7 @@ private:
     Driver driver_;
     std::string ownerTitle_;
     std::uint32_t chooserError_ = 0;
+    std::string clipboard_;
     bool strict_ = false;
     std::vector<Window> stack_;
     BitmapRef nextBitmap_ = 0x1000;

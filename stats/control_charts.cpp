@@ -137,6 +137,13 @@ public:
         return false;
     }
 
+    std::optional<Composition> preview(DialogContext& context) override {
+        CurveSettings s = working_;
+        bindings_.read(context.view, s);
+        if (curveCenterRefused(s)) return Composition::refuse(text::kCenterRange);
+        return ChartDialog::preview(context);
+    }
+
 private:
     static CurveSettings& settings() {
         static CurveSettings record;

@@ -38,13 +38,6 @@ public:
         return ProcedureDialog::init(context);
     }
 
-    bool accept(DialogContext& context, int button) override {
-        std::uint32_t chosen = 0;
-        for (int index : context.view.listSelection(IDC_BSTATS_LIST))
-            if (index >= 0 && index < 32) chosen |= 1u << index;
-        working_.statistics = chosen;
-        return ProcedureDialog::accept(context, button);
-    }
 
     std::vector<OwnList> ownLists() override { return {{IDC_VARIABLE_LIST, &grouping_, 1}}; }
 
@@ -57,6 +50,12 @@ private:
     static BasicStatsSettings& settings() {
         static BasicStatsSettings remembered;
         return remembered;
+    }
+    void readOwn(const DialogView& view, BasicStatsSettings& s) const override {
+        std::uint32_t chosen = 0;
+        for (int index : view.listSelection(IDC_BSTATS_LIST))
+            if (index >= 0 && index < 32) chosen |= 1u << index;
+        s.statistics = chosen;
     }
     void shown(DialogView& view) override {
         for (std::size_t i = 0; i < std::size(text::kStatisticsList); ++i)

@@ -33,6 +33,12 @@ public:
         return ProcedureDialog::accept(context, button);
     }
 
+    // Nothing typed: OK stays open without a word, and the preview is empty.
+    std::optional<Composition> preview(DialogContext& context) override {
+        if (isBlankText(context.view.text(IDC_HYPOTHESIS_TEXT))) return Composition{};
+        return ProcedureDialog::preview(context);
+    }
+
 private:
     static constexpr std::size_t kLimit = 30000;
 

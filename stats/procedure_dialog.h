@@ -35,6 +35,7 @@ public:
 
     bool accept(DialogContext& context, int) override {
         bindings_.read(context.view, working_);
+        readOwn(context.view, working_);
         if (const std::string_view refusal = bindings_.validate(working_); !refusal.empty()) {
             showStop(context.view.handle(), refusal);
             return false;
@@ -42,6 +43,15 @@ public:
         if (!deliverBlock(context.view, compose(working_, context.view))) return false;
         stored_ = working_;
         return true;
+    }
+
+    std::optional<Composition> preview(DialogContext& context) override {
+        Record settings = working_;
+        bindings_.read(context.view, settings);
+        readOwn(context.view, settings);
+        if (const std::string_view refusal = bindings_.validate(settings); !refusal.empty())
+            return Composition::refuse(refusal);
+        return previewBlock(context.view, compose(settings, context.view));
     }
 
     void reset(DialogContext& context) override {
@@ -58,6 +68,9 @@ protected:
 
     // The block of an OK, from the settings and the names in the lists.
     virtual ProcedureBlock compose(const Record& settings, const DialogView& view) const = 0;
+    // Settings of controls the bindings do not cover, read at OK and for the
+    // preview.
+    virtual void readOwn(const DialogView&, Record&) const {}
     // The working copy as the dialog opens (a run's flags cleared).
     virtual void opened(Record&) {}
     // After the settings were shown (controls that follow them).

@@ -48,6 +48,11 @@ public:
         return true;
     }
 
+    std::optional<Composition> preview(DialogContext& context) override {
+        const std::vector<int> selection = context.view.listSelection(IDC_TRAX_PROGRAMS);
+        return previewBlock(context.view, composeTraxCall(selection.empty() ? -1 : selection.front()));
+    }
+
     // A double click chooses the program as OK does.
     void notify(DialogContext& context, const Notification& n) override {
         if (n.event == Event::ListDoubleClicked && n.controlId == IDC_TRAX_PROGRAMS)

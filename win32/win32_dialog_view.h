@@ -52,6 +52,13 @@ public:
     void setEditSelection(int id, int start, int end) override;
 
     void limitText(int id, std::size_t count) override;
+    std::vector<int> controlIds() const override;
+    DialogRect controlRect(int id) const override;
+    DialogRect clientRect() const override;
+    void moveControl(int id, const DialogRect& rect) override;
+    void growClient(int width, int height) override;
+    bool addControl(const AddedControl& control) override;
+
     void setCaption(std::string_view text) override;
     void centre() override;
     void end(int result) override;

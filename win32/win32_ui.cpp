@@ -165,6 +165,27 @@ void Win32Ui::endWait(std::uintptr_t previous) { SetCursor(reinterpret_cast<HCUR
 
 void Win32Ui::beep() { MessageBeep(MB_OK); }
 
+// CF_TEXT in movable global memory, which the clipboard owns once it is set.
+bool Win32Ui::copyText(WindowRef owner, std::string_view text) {
+    const std::string_view copied = text.substr(0, text.find('\0'));
+    HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, copied.size() + 1);
+    if (!block) return false;
+    if (auto* bytes = static_cast<char*>(GlobalLock(block))) {
+        std::memcpy(bytes, copied.data(), copied.size());
+        bytes[copied.size()] = '\0';
+        GlobalUnlock(block);
+    }
+    if (!OpenClipboard(reinterpret_cast<HWND>(owner))) {
+        GlobalFree(block);
+        return false;
+    }
+    EmptyClipboard();
+    const bool set = SetClipboardData(CF_TEXT, block) != nullptr;
+    CloseClipboard();
+    if (!set) GlobalFree(block);
+    return set;
+}
+
 BitmapRef Win32Ui::loadBitmap(std::string_view name) {
     const std::string resource(name);
     return reinterpret_cast<BitmapRef>(LoadBitmapA(moduleInstance(), resource.c_str()));

@@ -19,6 +19,7 @@ public:
     std::uintptr_t beginWait() override;
     void endWait(std::uintptr_t previous) override;
     void beep() override;
+    bool copyText(WindowRef owner, std::string_view text) override;
     BitmapRef loadBitmap(std::string_view name) override;
     void deleteBitmap(BitmapRef bitmap) override;
     std::uint32_t systemColour(SystemColour which) override;

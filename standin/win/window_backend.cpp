@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 #include "standin/kernel_state.h"
 #include "standin/win/control_probe.h"
@@ -427,6 +428,19 @@ void WindowBackend::dismissTop() {
     case WindowKind::Menu: EndMenu(); break;
     case WindowKind::None: break;
     }
+}
+
+std::string WindowBackend::clipboardText() {
+    std::string text;
+    if (!OpenClipboard(nullptr)) return text;
+    if (HANDLE data = GetClipboardData(CF_TEXT)) {
+        if (const auto* bytes = static_cast<const char*>(GlobalLock(data))) {
+            text.assign(bytes, strnlen(bytes, GlobalSize(data)));
+            GlobalUnlock(data);
+        }
+    }
+    CloseClipboard();
+    return text;
 }
 
 }  // namespace kvs::standin

@@ -52,6 +52,7 @@ public:
     std::optional<long> userWord() override;
     void pressTab() override;
     void pressEnter() override;
+    std::string clipboardText() override;
 
 private:
     void pressKey(WPARAM key);

@@ -28,6 +28,7 @@
 #include "headless/field_scenario.h"
 #include "headless/headless_backend.h"
 #include "tools/kvsdlg/wine_backend.h"
+#include "tools/scenario/preview_check.h"
 #include "tools/scenario/text_file.h"
 
 namespace {
@@ -37,10 +38,12 @@ constexpr int kSecondsPerFile = 60;
 
 
 int usage() {
-    std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] [--strict] FILE.scn...\n"
+    std::cerr << "usage: kvsdlg run|check|update [--backend=headless|wine] [--strict] [--previews] FILE.scn...\n"
                  "       kvsdlg fields LENGTH DIR\n"
                  "       kvsdlg bounds DIR\n"
-                 "  --strict (headless only): a dialog touching a control its template lacks is an error line\n";
+                 "  --strict (headless only): a dialog touching a control its template lacks is an error line\n"
+                 "  --previews (headless only): before every OK the command preview is read and compared with\n"
+                 "             what the OK then does\n";
     return 2;
 }
 
@@ -105,10 +108,15 @@ int main(int argc, char** argv) {
     std::vector<std::string> files;
     bool wine = false;
     bool strict = false;
+    bool previews = false;
     for (int i = 2; i < argc; ++i) {
         const std::string argument = argv[i];
         if (argument == "--strict") {
             strict = true;
+            continue;
+        }
+        if (argument == "--previews") {
+            previews = true;
             continue;
         }
         if (argument.rfind("--backend=", 0) == 0) {
@@ -119,7 +127,7 @@ int main(int argc, char** argv) {
         files.push_back(argument);
     }
 
-    if (strict && wine) return usage();  // the real windows cannot tell what the logic touched
+    if ((strict || previews) && wine) return usage();  // the real windows cannot tell what the logic touched
 
     // Under Wine every file runs in one process, before any is compared.
     std::vector<std::string> wineTranscripts;
@@ -140,6 +148,8 @@ int main(int argc, char** argv) {
     }
     kvs::headless::HeadlessRunner runner(resources);
     runner.setStrict(strict);
+    runner.setMarkPreviews(previews);
+    int previewsChecked = 0;
 
     // A scenario that runs too long ends the run: a hang fails at once
     // instead of holding the test command until its own limit.
@@ -177,7 +187,14 @@ int main(int argc, char** argv) {
             ++failed;
             continue;
         }
-        const std::string transcript = wine ? wineTranscripts[i] : runner.run(*source);
+        std::string transcript = wine ? wineTranscripts[i] : runner.run(*source);
+        if (previews) {
+            kvs::scenario::PreviewReport report = kvs::scenario::checkPreviews(transcript);
+            previewsChecked += report.checked;
+            for (const std::string& mismatch : report.mismatches) std::cout << "PREVIEW " << file << ": " << mismatch << '\n';
+            if (!report.mismatches.empty()) ++failed;
+            if (command != "run") transcript = std::move(report.transcript);
+        }
         if (command == "run") {
             std::cout << transcript;
             continue;
@@ -205,5 +222,6 @@ int main(int argc, char** argv) {
     fileDone.notify_all();
     watchdog.join();
     if (command == "check") std::cout << "scenarios: " << passed << " passed, " << failed << " failed\n";
+    if (previews) std::cout << "previews: " << previewsChecked << " OKs compared with their preview\n";
     return failed == 0 && !wineFailed ? 0 : 1;
 }

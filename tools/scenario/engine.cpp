@@ -14,6 +14,20 @@ namespace kvs::scenario {
 namespace {
 
 constexpr int kOk = 1, kCancel = 2, kContinue = 1001, kYes = 6, kNo = 7;
+constexpr int kPreviewField = 960, kCopyButton = 961;
+
+// " \"line\" \"line\"": each line of a text whose lines end in "\r\n".
+std::string quotedLines(std::string_view text) {
+    std::string out;
+    while (!text.empty()) {
+        const std::size_t end = text.find("\r\n");
+        out += ' ';
+        out += quote(text.substr(0, end));
+        if (end == std::string_view::npos) break;
+        text.remove_prefix(end + 2);
+    }
+    return out;
+}
 
 const ListTransferRow* rowForTarget(int targetId) {
     for (const ListTransferRow& row : kListTransfers)
@@ -80,6 +94,7 @@ void Engine::load(std::string_view source) {
     statements_ = std::move(parsed.statements);
     next_ = 0;
     helpFile_ = kDefaultHelpFile;
+    failingAllocation_ = false;
 }
 
 void Engine::fail(const Statement& statement, const std::string& message) {
@@ -96,6 +111,16 @@ std::string Engine::describeTop() {
     case WindowKind::None: break;
     }
     return "nothing";
+}
+
+// The preview's lines, or "refused" and the message it shows when Copy has
+// nothing to copy.
+std::string Engine::previewLine(std::string_view keyword) {
+    const std::optional<ControlInfo> field = backend_.control(kPreviewField);
+    const std::optional<ControlInfo> copy = backend_.controlState(kCopyButton);
+    const std::string text = field ? field->text : std::string();
+    if (copy && !copy->enabled && !text.empty()) return std::string(keyword) + " refused " + quote(text);
+    return std::string(keyword) + quotedLines(text);
 }
 
 void Engine::windowLeftOpen() {
@@ -152,6 +177,7 @@ bool Engine::setup(const Statement& s) {
     } else if (k == "failalloc") {
         const auto nth = number(0);
         backend_.failAllocation(nth ? static_cast<int>(*nth) : 0);
+        failingAllocation_ = nth && *nth > 0;
     } else if (k == "allocations") {
         emit_("allocations live " + std::to_string(backend_.liveAllocations()));
     } else if (k == "start") {
@@ -228,6 +254,7 @@ void Engine::actOnDialog(const Statement& s) {
         }
     };
 
+    if (k == "ok" && markPreviews_ && !failingAllocation_ && backend_.hasControl(kPreviewField)) emit_(previewLine("#preview"));
     if (k == "ok" || k == "cancel" || k == "continue") {
         clickEnabled(k == "ok" ? kOk : k == "cancel" ? kCancel : kContinue);
     } else if (k == "click") {
@@ -320,6 +347,11 @@ void Engine::actOnDialog(const Statement& s) {
         backend_.pressTab();
     } else if (k == "enter") {
         backend_.pressEnter();
+    } else if (k == "preview") {
+        if (!backend_.hasControl(kPreviewField)) fail(s, "no command preview in " + quote(backend_.topText()));
+        else emit_(previewLine("preview"));
+    } else if (k == "clipboard") {
+        emit_("clipboard" + quotedLines(backend_.clipboardText()));
     } else if (k == "caption") {
         emit_("caption " + quote(backend_.topText()));
     } else if (k == "show") {

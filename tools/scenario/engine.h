@@ -138,6 +138,8 @@ public:
     // The Tab and Enter keys, pressed in the topmost dialog.
     virtual void pressTab() = 0;
     virtual void pressEnter() = 0;
+    // The text on the clipboard (CF_TEXT), empty when there is none.
+    virtual std::string clipboardText() { return {}; }
     // After each statement: what a real window leaves in its message queue
     // for later (a number field's report) happens now.
     virtual void settle() {}
@@ -156,6 +158,9 @@ public:
     bool done() const { return next_ >= statements_.size(); }
     // The scenario has ended with a window open: reports it and closes it.
     void windowLeftOpen();
+    // Before each OK of a dialog with a command preview, a "#preview" line
+    // tells what the preview shows (see preview_check.h).
+    void setMarkPreviews(bool on) { markPreviews_ = on; }
 
     static constexpr const char* kDefaultTitle = "KORVAN";
     static constexpr const char* kDefaultHelpFile = "C:\\KORVAN\\KORVAN.HLP";
@@ -170,12 +175,15 @@ private:
     int controlId(const Token& token, bool field = false);
     void fail(const Statement& statement, const std::string& message);
     std::string describeTop();
+    std::string previewLine(std::string_view keyword);
 
     Backend& backend_;
     Emit emit_;
     std::vector<Statement> statements_;
     std::size_t next_ = 0;
     std::string helpFile_ = kDefaultHelpFile;
+    bool markPreviews_ = false;
+    bool failingAllocation_ = false;  // an OK may then fail where its preview could not
 };
 
 // The `show` line of a control.

@@ -1,0 +1,102 @@
+#include "core/command_preview.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "resources/common_ids.h"
+
+namespace kvs {
+
+namespace {
+
+constexpr int kMargin = 7;
+constexpr int kLabelHeight = 8;
+constexpr int kFieldHeight = 30;  // three lines of the dialog font
+constexpr int kButtonWidth = 50;
+constexpr int kButtonHeight = 14;
+constexpr int kGap = 4;
+constexpr std::string_view kLabel = "Command:";
+constexpr std::string_view kCopy = "Copy";
+constexpr int kLabelId = IDC_COMMAND_PREVIEW + 100;  // 1060: no template uses it
+
+// The letter after a single '&' of a label or button text, lower case.
+void collectMnemonic(std::string_view text, std::string& used) {
+    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
+        if (text[i] != '&') continue;
+        if (text[i + 1] == '&') {
+            ++i;
+            continue;
+        }
+        used.push_back(static_cast<char>(std::tolower(static_cast<unsigned char>(text[i + 1]))));
+        return;
+    }
+}
+
+}  // namespace
+
+std::string previewText(const Composition& composition) {
+    if (composition.refused()) return composition.refusal;
+    std::string text;
+    for (const std::string& line : composition.lines) {
+        if (!text.empty()) text += "\r\n";
+        text += line;
+    }
+    return text;
+}
+
+std::string withFreeMnemonic(const DialogView& view, std::string_view text) {
+    std::string used;
+    for (int id : view.controlIds()) {
+        const ControlType type = view.controlType(id);
+        if (type == ControlType::Button || type == ControlType::Other) collectMnemonic(view.text(id), used);
+    }
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto c = static_cast<unsigned char>(text[i]);
+        if (!std::isalpha(c) || used.find(static_cast<char>(std::tolower(c))) != std::string::npos) continue;
+        std::string marked(text.substr(0, i));
+        marked += '&';
+        marked += text.substr(i);
+        return marked;
+    }
+    return std::string(text);
+}
+
+bool CommandPreview::owns(int controlId) {
+    return controlId == IDC_COMMAND_PREVIEW || controlId == IDC_COPY_COMMANDS || controlId == kLabelId;
+}
+
+bool CommandPreview::install(DialogView& view) {
+    const DialogRect client = view.clientRect();
+    if (client.width <= 0) return false;
+    // Below the lowest control, whatever the template's bottom margin.
+    int top = 0;
+    for (int id : view.controlIds()) top = std::max(top, view.controlRect(id).bottom());
+    top = std::max(top, client.height - kMargin) + kGap;
+    const int fieldTop = top + kLabelHeight + 1;
+    const int needed = fieldTop + kFieldHeight + kMargin - client.height;
+    const std::string label = withFreeMnemonic(view, kLabel);
+    const std::string copy = withFreeMnemonic(view, kCopy);
+    if (needed > 0) view.growClient(0, needed);
+    const int buttonLeft = client.width - kMargin - kButtonWidth;
+    const int fieldWidth = buttonLeft - kGap - kMargin;
+    installed_ = view.addControl({AddedKind::Label, kLabelId, label, {kMargin, top, fieldWidth, kLabelHeight}, 0}) &&
+                 view.addControl({AddedKind::ReadOnlyText, IDC_COMMAND_PREVIEW, "",
+                                  {kMargin, fieldTop, fieldWidth, kFieldHeight}, kLabelId}) &&
+                 view.addControl({AddedKind::PushButton, IDC_COPY_COMMANDS, copy,
+                                  {buttonLeft, fieldTop, kButtonWidth, kButtonHeight}, IDC_COMMAND_PREVIEW});
+    return installed_;
+}
+
+void CommandPreview::show(DialogView& view, const std::optional<Composition>& composition) {
+    if (!installed_) return;
+    const std::string text = composition ? previewText(*composition) : std::string();
+    lines_ = composition && !composition->refused() ? text : std::string();
+    if (view.text(IDC_COMMAND_PREVIEW) != text) view.setText(IDC_COMMAND_PREVIEW, text);
+    view.enable(IDC_COPY_COMMANDS, !lines_.empty());
+}
+
+void CommandPreview::copy(const DialogView& view) const {
+    if (!lines_.empty()) ui().copyText(view.handle(), lines_);
+}
+
+}  // namespace kvs

@@ -1,0 +1,105 @@
+// The layout operations of Win32DialogView: controls in dialog units, so the
+// logic places what it adds in the units of the templates it extends.
+#include <algorithm>
+
+#include "win32/module_instance.h"
+#include "win32/win32_dialog_view.h"
+
+namespace kvs::win32 {
+
+namespace {
+
+// Pixels for 4 horizontal and 8 vertical dialog units of this dialog's font.
+POINT unitScale(HWND dialog) {
+    RECT scale{0, 0, 4, 8};
+    MapDialogRect(dialog, &scale);
+    return {std::max<LONG>(scale.right, 1), std::max<LONG>(scale.bottom, 1)};
+}
+
+int toUnitsX(HWND dialog, int pixels) { return MulDiv(pixels, 4, unitScale(dialog).x); }
+int toUnitsY(HWND dialog, int pixels) { return MulDiv(pixels, 8, unitScale(dialog).y); }
+
+RECT toPixels(HWND dialog, const DialogRect& rect) {
+    RECT pixels{rect.x, rect.y, rect.right(), rect.bottom()};
+    MapDialogRect(dialog, &pixels);
+    return pixels;
+}
+
+struct AddedClass {
+    const char* name;
+    DWORD style;
+    DWORD exStyle;
+};
+
+AddedClass classOf(AddedKind kind) {
+    constexpr DWORD child = WS_CHILD | WS_VISIBLE;
+    switch (kind) {
+    case AddedKind::Label: return {"STATIC", child | SS_LEFT, 0};
+    case AddedKind::PushButton: return {"BUTTON", child | WS_TABSTOP | BS_PUSHBUTTON, 0};
+    case AddedKind::Edit: return {"EDIT", child | WS_TABSTOP | WS_BORDER | ES_LEFT | ES_AUTOHSCROLL, WS_EX_CLIENTEDGE};
+    case AddedKind::ReadOnlyText:
+        return {"EDIT", child | WS_TABSTOP | WS_BORDER | WS_VSCROLL | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL,
+                WS_EX_CLIENTEDGE};
+    }
+    return {"STATIC", child, 0};
+}
+
+}  // namespace
+
+std::vector<int> Win32DialogView::controlIds() const {
+    std::vector<int> ids;
+    for (HWND control = GetWindow(dialog_, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT))
+        ids.push_back(GetDlgCtrlID(control));
+    return ids;
+}
+
+DialogRect Win32DialogView::controlRect(int id) const {
+    HWND control = child(id);
+    RECT frame{};
+    if (!control || !GetWindowRect(control, &frame)) return {};
+    MapWindowPoints(nullptr, dialog_, reinterpret_cast<POINT*>(&frame), 2);
+    return {toUnitsX(dialog_, frame.left), toUnitsY(dialog_, frame.top), toUnitsX(dialog_, frame.right - frame.left),
+            toUnitsY(dialog_, frame.bottom - frame.top)};
+}
+
+DialogRect Win32DialogView::clientRect() const {
+    RECT client{};
+    if (!GetClientRect(dialog_, &client)) return {};
+    return {0, 0, toUnitsX(dialog_, client.right), toUnitsY(dialog_, client.bottom)};
+}
+
+void Win32DialogView::moveControl(int id, const DialogRect& rect) {
+    HWND control = child(id);
+    if (!control) return;
+    const RECT pixels = toPixels(dialog_, rect);
+    SetWindowPos(control, nullptr, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Win32DialogView::growClient(int width, int height) {
+    RECT frame{};
+    if (!GetWindowRect(dialog_, &frame)) return;
+    const RECT grow = toPixels(dialog_, {0, 0, width, height});
+    SetWindowPos(dialog_, nullptr, 0, 0, frame.right - frame.left + grow.right, frame.bottom - frame.top + grow.bottom,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool Win32DialogView::addControl(const AddedControl& added) {
+    if (child(added.id)) return false;
+    const AddedClass cls = classOf(added.kind);
+    const RECT pixels = toPixels(dialog_, added.rect);
+    const std::string text = added.text.substr(0, added.text.find('\0'));
+    HWND control = CreateWindowExA(cls.exStyle, cls.name, text.c_str(), cls.style, pixels.left, pixels.top,
+                                   pixels.right - pixels.left, pixels.bottom - pixels.top, dialog_,
+                                   reinterpret_cast<HMENU>(static_cast<INT_PTR>(added.id)), moduleInstance(), nullptr);
+    if (!control) return false;
+    SendMessageA(control, WM_SETFONT, static_cast<WPARAM>(SendMessageA(dialog_, WM_GETFONT, 0, 0)), FALSE);
+    // A new window goes to the top of the z-order, which is also the first
+    // place in tab order; it belongs after the control it follows.
+    HWND previous = added.after ? child(added.after) : HWND_BOTTOM;
+    if (previous) SetWindowPos(control, previous, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    controls_.emplace(added.id, control);
+    return true;
+}
+
+}  // namespace kvs::win32
