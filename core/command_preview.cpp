@@ -15,7 +15,7 @@ constexpr int kFieldHeight = 30;  // three lines of the dialog font
 constexpr int kButtonWidth = 50;
 constexpr int kButtonHeight = 14;
 constexpr int kGap = 4;
-constexpr std::string_view kLabel = "Command:";
+constexpr std::string_view kLabel = "Command preview:";
 constexpr std::string_view kCopy = "Copy";
 constexpr int kLabelId = IDC_COMMAND_PREVIEW + 100;  // 1060: no template uses it
 
@@ -44,12 +44,10 @@ std::string previewText(const Composition& composition) {
     return text;
 }
 
-std::string withFreeMnemonic(const DialogView& view, std::string_view text) {
+std::string withFreeMnemonic(const DialogView& view, std::string_view text, std::string_view taken) {
     std::string used;
-    for (int id : view.controlIds()) {
-        const ControlType type = view.controlType(id);
-        if (type == ControlType::Button || type == ControlType::Other) collectMnemonic(view.text(id), used);
-    }
+    for (char c : taken) used.push_back(static_cast<char>(std::tolower(static_cast<unsigned char>(c))));
+    for (const ControlLayout& control : view.layout()) collectMnemonic(control.text, used);
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto c = static_cast<unsigned char>(text[i]);
         if (!std::isalpha(c) || used.find(static_cast<char>(std::tolower(c))) != std::string::npos) continue;
@@ -70,12 +68,14 @@ bool CommandPreview::install(DialogView& view) {
     if (client.width <= 0) return false;
     // Below the lowest control, whatever the template's bottom margin.
     int top = 0;
-    for (int id : view.controlIds()) top = std::max(top, view.controlRect(id).bottom());
+    for (const ControlLayout& control : view.layout()) top = std::max(top, control.rect.bottom());
     top = std::max(top, client.height - kMargin) + kGap;
     const int fieldTop = top + kLabelHeight + 1;
     const int needed = fieldTop + kFieldHeight + kMargin - client.height;
-    const std::string label = withFreeMnemonic(view, kLabel);
     const std::string copy = withFreeMnemonic(view, kCopy);
+    std::string copyLetter;
+    collectMnemonic(copy, copyLetter);
+    const std::string label = withFreeMnemonic(view, kLabel, copyLetter);
     if (needed > 0) view.growClient(0, needed);
     const int buttonLeft = client.width - kMargin - kButtonWidth;
     const int fieldWidth = buttonLeft - kGap - kMargin;

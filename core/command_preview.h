@@ -18,9 +18,9 @@ namespace kvs {
 std::string previewText(const Composition& composition);
 
 // "Copy" -> "&Copy", or with the first of its letters no other label or
-// button of the dialog uses as its mnemonic; the text as it is when every
-// letter is taken.
-std::string withFreeMnemonic(const DialogView& view, std::string_view text);
+// button of the dialog uses as its mnemonic, nor any of taken; the text as
+// it is when every letter is in use.
+std::string withFreeMnemonic(const DialogView& view, std::string_view text, std::string_view taken = {});
 
 class CommandPreview {
 public:

@@ -63,6 +63,15 @@ struct AddedControl {
     int after = 0;  // the control it follows in tab order; 0: after all
 };
 
+// One control of an open dialog as laid out: its text only for labels and
+// buttons (ControlType::Other, Button), where it names the control.
+struct ControlLayout {
+    int id = 0;
+    ControlType type = ControlType::Other;
+    std::string text;
+    DialogRect rect;
+};
+
 // The controls of one open dialog, addressed by control id. Operations on an
 // id the dialog does not have do nothing and read as empty.
 class DialogView {
@@ -146,11 +155,11 @@ public:
     virtual int comboSelection(int id) const = 0;
     virtual void comboSelect(int id, int index) = 0;
 
-    // Layout in dialog units: the controls in tab order, where one is, the
-    // size of the client area; moving a control, growing the dialog and
-    // adding a control. A view that cannot lay out reads as empty and adds
-    // nothing (false).
-    virtual std::vector<int> controlIds() const { return {}; }
+    // Layout in dialog units: every control in tab order (labels share an
+    // id), where one is, the size of the client area; moving a control,
+    // growing the dialog and adding a control. A view that cannot lay out
+    // reads as empty and adds nothing (false).
+    virtual std::vector<ControlLayout> layout() const { return {}; }
     virtual DialogRect controlRect(int id) const { (void)id; return {}; }
     virtual DialogRect clientRect() const { return {}; }
     virtual void moveControl(int id, const DialogRect& rect) { (void)id, (void)rect; }

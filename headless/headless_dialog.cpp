@@ -110,11 +110,18 @@ HeadlessDialog::HeadlessDialog(const DialogTemplate& dialogTemplate)
     }
 }
 
-std::vector<int> HeadlessDialog::controlIds() const {
-    std::vector<int> ids;
-    ids.reserve(controls_.size());
-    for (const ControlState& c : controls_) ids.push_back(c.def.id);
-    return ids;
+std::vector<ControlLayout> HeadlessDialog::layout() const {
+    std::vector<ControlLayout> all;
+    all.reserve(controls_.size());
+    for (const ControlState& c : controls_) {
+        ControlLayout control{c.def.id, controlType(c.def.id), {}, {c.def.x, c.def.y, c.def.w, c.def.h}};
+        if (c.def.kind == ControlKind::Static || c.def.kind == ControlKind::Button) {
+            control.type = c.def.kind == ControlKind::Button ? ControlType::Button : ControlType::Other;
+            control.text = c.text;
+        }
+        all.push_back(std::move(control));
+    }
+    return all;
 }
 
 DialogRect HeadlessDialog::controlRect(int id) const {

@@ -82,7 +82,7 @@ public:
     void comboSelect(int id, int index) override;
     std::pair<int, int> editSelection(int id) const override;
     void setEditSelection(int id, int start, int end) override;
-    std::vector<int> controlIds() const override;
+    std::vector<ControlLayout> layout() const override;
     DialogRect controlRect(int id) const override;
     DialogRect clientRect() const override { return {0, 0, width_, height_}; }
     void moveControl(int id, const DialogRect& rect) override;

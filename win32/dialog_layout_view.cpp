@@ -46,21 +46,36 @@ AddedClass classOf(AddedKind kind) {
 
 }  // namespace
 
-std::vector<int> Win32DialogView::controlIds() const {
-    std::vector<int> ids;
-    for (HWND control = GetWindow(dialog_, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT))
-        ids.push_back(GetDlgCtrlID(control));
-    return ids;
-}
-
-DialogRect Win32DialogView::controlRect(int id) const {
-    HWND control = child(id);
+DialogRect Win32DialogView::rectOf(HWND control) const {
     RECT frame{};
     if (!control || !GetWindowRect(control, &frame)) return {};
     MapWindowPoints(nullptr, dialog_, reinterpret_cast<POINT*>(&frame), 2);
     return {toUnitsX(dialog_, frame.left), toUnitsY(dialog_, frame.top), toUnitsX(dialog_, frame.right - frame.left),
             toUnitsY(dialog_, frame.bottom - frame.top)};
 }
+
+std::vector<ControlLayout> Win32DialogView::layout() const {
+    std::vector<ControlLayout> all;
+    for (HWND control = GetWindow(dialog_, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
+        const int id = GetDlgCtrlID(control);
+        ControlLayout entry{id, ControlType::Other, {}, rectOf(control)};
+        char name[32] = {};
+        GetClassNameA(control, name, static_cast<int>(sizeof name));
+        if (lstrcmpiA(name, "Button") == 0) entry.type = ControlType::Button;
+        else if (lstrcmpiA(name, "Edit") == 0) entry.type = ControlType::Edit;
+        else if (lstrcmpiA(name, "ListBox") == 0) entry.type = ControlType::ListBox;
+        else if (lstrcmpiA(name, "ComboBox") == 0) entry.type = ControlType::ComboBox;
+        if (entry.type == ControlType::Button || entry.type == ControlType::Other) {
+            char text[256] = {};
+            const int length = GetWindowTextA(control, text, static_cast<int>(sizeof text));
+            entry.text.assign(text, static_cast<std::size_t>(std::max(length, 0)));
+        }
+        all.push_back(std::move(entry));
+    }
+    return all;
+}
+
+DialogRect Win32DialogView::controlRect(int id) const { return rectOf(child(id)); }
 
 DialogRect Win32DialogView::clientRect() const {
     RECT client{};

@@ -52,7 +52,7 @@ public:
     void setEditSelection(int id, int start, int end) override;
 
     void limitText(int id, std::size_t count) override;
-    std::vector<int> controlIds() const override;
+    std::vector<ControlLayout> layout() const override;
     DialogRect controlRect(int id) const override;
     DialogRect clientRect() const override;
     void moveControl(int id, const DialogRect& rect) override;
@@ -65,6 +65,7 @@ public:
 
 private:
     HWND child(int id) const;
+    DialogRect rectOf(HWND control) const;
 
     HWND dialog_;
     mutable std::unordered_map<int, HWND> controls_;

@@ -8,9 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "core/command_preview.h"
 #include "core/dispatch_table.h"
 #include "families/library.h"
 #include "headless/embedded_resources.h"
+#include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
 
 namespace {
@@ -56,7 +58,8 @@ char mnemonicOf(const std::string& text) {
     return 0;
 }
 
-// Every label and button of a written dialog carries a mnemonic of its own,
+// Every label and button of a written dialog, with the controls the dialog
+// adds when it opens (the command preview), carries a mnemonic of its own,
 // so a user reaches each control from the keyboard. OK and Cancel answer
 // Enter and Escape, group boxes take no focus, a text without a letter or a
 // digit ("=") has nothing to mark, and the catalogue's "Add" 153 comes third
@@ -66,10 +69,14 @@ TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
     std::vector<std::string> faults;
     for (const kvs::DispatchRow& row : kvs::dialogRows()) {
         if (!row.behaviour || !row.templateName) continue;
-        const kvs::headless::DialogTemplate* dialog = resources().dialog(row.templateName);
-        if (!dialog) continue;
+        const kvs::headless::DialogTemplate* dialogTemplate = resources().dialog(row.templateName);
+        if (!dialogTemplate) continue;
+        kvs::headless::HeadlessDialog dialog(*dialogTemplate);
+        kvs::CommandPreview preview;
+        EXPECT_TRUE(preview.install(dialog)) << row.templateName;
         std::string taken;
-        for (const auto& control : dialog->controls) {
+        for (const auto& state : dialog.controls()) {
+            const auto& control = state.def;
             const bool button = control.kind == kvs::headless::ControlKind::Button;
             if (!button && control.kind != kvs::headless::ControlKind::Static) continue;
             const bool groupBox = button && (control.style & 0x0Fu) == 0x07u;
