@@ -8,6 +8,8 @@
 #include <vector>
 #include <functional>
 
+#include "resources/common_ids.h"
+#include "resources/data_ids.h"
 #include "standin/host_state.h"
 #include "standin/win/bitmap_file.h"
 #include "standin/win/help_catcher.h"
@@ -48,6 +50,9 @@ private:
     // (none: the picture is of the menu), taking the picture of what is up
     // at the end; dropDown, when not 0, is a combo box of it to drop down.
     void visitRoute(const std::string& shotName, std::uint16_t dialog, int button, int code, int dropDown = 0);
+    // Opens a dialog and takes its picture after the steps, one per tick:
+    // the dialog as a user has worked in it.
+    void visitWorked(const std::string& shotName, std::uint16_t dialog, std::vector<std::function<void()>> steps);
     void pictureOfUnlisted();
     void pictureOfPictures();
     void showProgress();
@@ -116,6 +121,16 @@ void Tour::visitRoute(const std::string& shotName, std::uint16_t dialog, int but
             info.cbSize = sizeof info;
             if (GetComboBoxInfo(combo, &info)) shotWindow_ = info.hwndList;
         });
+    step_ = 0;
+    visit(shotName, [&] {
+        return "StartDialog " + std::to_string(dialog) + " = " +
+               std::to_string(library_.startDialog(dialog, owner_, kSampleHelpFile));
+    });
+    steps_.clear();
+}
+
+void Tour::visitWorked(const std::string& shotName, std::uint16_t dialog, std::vector<std::function<void()>> steps) {
+    steps_ = std::move(steps);
     step_ = 0;
     visit(shotName, [&] {
         return "StartDialog " + std::to_string(dialog) + " = " +
@@ -241,6 +256,14 @@ int Tour::run() {
     visitRoute("route-0101-SurfaceLineStyle", 101, 503, 2008);
     visitRoute("route-0101-SurfaceLineStyle-list", 101, 503, 2008, 93);
     visitRoute("route-0109-LineStyle", 109, 512, 2008);
+    // The command preview of dialogs a user has filled: Sort with two keys
+    // and a save file, Regression with its model.
+    visitWorked("worked-0072-Sort", 72,
+                {[this] { backend_.selectItems(IDC_SOURCE, {0, 3}); }, [this] { backend_.click(IDC_ADD1); },
+                 [this] { backend_.click(IDC_SORT_DESCENDING); }, [this] { backend_.click(IDC_SAVEFILE); }});
+    visitWorked("worked-0221-Regression", 221,
+                {[this] { backend_.selectItems(IDC_SOURCE, {3}); }, [this] { backend_.click(IDC_ADD_DEPENDENT); },
+                 [this] { backend_.selectItems(IDC_SOURCE, {0, 4, 6}); }, [this] { backend_.click(IDC_ADD1); }});
     // The dialogs the host opens through exports of their own.
     const scenario::LibraryExports& exports = library_.exports();
     if (exports.doSaveDataOptionsDlg)
