@@ -4,7 +4,7 @@ set -euo pipefail
 
 packages=(cmake ninja-build g++ ccache libgtest-dev googletest
           g++-mingw-w64-i686 g++-mingw-w64-x86-64 binutils-mingw-w64-i686 binutils-mingw-w64-x86-64
-          wine wine64 xvfb x11-apps imagemagick fonts-liberation
+          wine wine64 fonts-wine xvfb x11-apps imagemagick fonts-liberation
           zip unzip clang lld llvm)
 
 missing=()

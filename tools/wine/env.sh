@@ -47,6 +47,14 @@ kvs_wine_prefix() {
       wineserver -w
       touch "$WINEPREFIX/.kvs-fonts"
     fi
+    # Title-bar buttons are glyphs of Marlett, which Wine ships with its
+    # fonts but does not find in a new prefix: without it the close box
+    # reads "r".
+    local marlett=/usr/share/wine/fonts/marlett.ttf
+    if [ -f "$marlett" ] && [ ! -f "$WINEPREFIX/drive_c/windows/Fonts/marlett.ttf" ]; then
+      mkdir -p "$WINEPREFIX/drive_c/windows/Fonts"
+      cp "$marlett" "$WINEPREFIX/drive_c/windows/Fonts/"
+    fi
   ) 9>"$WINEPREFIX.lock"
 }
 
