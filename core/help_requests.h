@@ -9,6 +9,11 @@
 
 namespace kvs {
 
+// The .chm of the same name beside a .hlp file ("C:\K\KORVAN.HLP" ->
+// "C:\K\KORVAN.CHM", the extension in the case of the original), or empty
+// for a path that names no .hlp file.
+std::string htmlHelpBeside(std::string_view helpFile);
+
 // Opens the help file at a topic.
 void openHelpTopic(WindowRef owner, std::uint32_t context);
 // Contents, search, help on help, or the open dialog's topic; other codes

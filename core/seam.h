@@ -226,6 +226,9 @@ enum class HelpKind { Context, Contents, Key, HelpOnHelp };
 struct HelpRequest {
     WindowRef owner = 0;
     std::string file;
+    // A compiled HTML Help file of the same name beside file: opened with
+    // HTML Help at the same topic instead (empty: WinHelp opens file).
+    std::string htmlFile;
     HelpKind kind = HelpKind::Context;
     std::uint32_t context = 0;
     std::string key;
@@ -278,6 +281,11 @@ public:
     static constexpr std::uint32_t kChooserInvalidFileName = 0x3002;  // FNERR_INVALIDFILENAME
     virtual std::uint32_t chooserError() const { return 0; }
     virtual void help(const HelpRequest& request) = 0;
+    // Whether a file (not a folder) is at path.
+    virtual bool fileExists(std::string_view path) {
+        (void)path;
+        return false;
+    }
     // The window that has the focus (owner of some message boxes).
     virtual WindowRef focusWindow() = 0;
     // Title of a window, cut at capacity - 1 characters.

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "resources/progress_ids.h"
+#include "standin/host_state.h"
 #include "tools/scenario/transcript.h"
 
 namespace kvs::headless {
@@ -204,6 +205,11 @@ std::intptr_t HeadlessUi::userRequest(DialogView& view, int code, std::intptr_t 
     return 1;
 }
 
+// The files a scenario put on the stand-in machine ("file" statements).
+bool HeadlessUi::fileExists(std::string_view path) {
+    return standin::HostState::instance().file(std::string(path)) != nullptr;
+}
+
 bool HeadlessUi::copyText(WindowRef, std::string_view text) {
     clipboard_ = std::string(text);
     return true;
@@ -244,6 +250,14 @@ std::optional<std::string> HeadlessUi::chooseFile(const FileRequest& request) {
 }
 
 void HeadlessUi::help(const HelpRequest& request) {
+    if (!request.htmlFile.empty()) {
+        switch (request.kind) {
+        case HelpKind::Context: transcript_(scenario::htmlHelpContextLine(request.htmlFile, request.context)); return;
+        case HelpKind::Contents: transcript_(scenario::htmlHelpContentsLine(request.htmlFile)); return;
+        case HelpKind::Key: transcript_(scenario::htmlHelpKeyLine(request.htmlFile, request.key)); return;
+        case HelpKind::HelpOnHelp: break;
+        }
+    }
     switch (request.kind) {
     case HelpKind::Context: transcript_(scenario::helpContextLine(request.file, request.context)); break;
     case HelpKind::Contents: transcript_(scenario::helpContentsLine(request.file)); break;

@@ -83,6 +83,8 @@ public:
     // an error line instead of being ignored.
     void setStrict(bool strict) { strict_ = strict; }
     bool copyText(WindowRef owner, std::string_view text) override;
+    bool fileExists(std::string_view path) override;
+
     const std::string& clipboard() const { return clipboard_; }
 
     // The window statements act on; none when nothing is open.

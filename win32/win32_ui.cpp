@@ -133,8 +133,49 @@ std::optional<std::string> Win32Ui::chooseFile(const FileRequest& request) {
     return path;
 }
 
+namespace {
+
+// HTML Help's entry point, from hhctrl.ocx loaded on first use (the DLL does
+// not import it: a host without HTML Help still loads the library).
+using HtmlHelpFunction = HWND(WINAPI*)(HWND, LPCSTR, UINT, DWORD_PTR);
+
+HtmlHelpFunction htmlHelp() {
+    static const HtmlHelpFunction function = [] {
+        HMODULE module = LoadLibraryA("hhctrl.ocx");
+        return module ? reinterpret_cast<HtmlHelpFunction>(reinterpret_cast<void*>(GetProcAddress(module, "HtmlHelpA")))
+                      : nullptr;
+    }();
+    return function;
+}
+
+constexpr UINT kHhDisplayToc = 0x0001, kHhDisplayIndex = 0x0002, kHhHelpContext = 0x000F;
+
+bool openHtmlHelp(HWND owner, const HelpRequest& request) {
+    const HtmlHelpFunction function = htmlHelp();
+    if (!function) return false;
+    const char* file = request.htmlFile.c_str();
+    switch (request.kind) {
+    case HelpKind::Context: function(owner, file, kHhHelpContext, request.context); return true;
+    case HelpKind::Contents: function(owner, file, kHhDisplayToc, 0); return true;
+    case HelpKind::Key:
+        function(owner, file, kHhDisplayIndex, reinterpret_cast<DWORD_PTR>(request.key.c_str()));
+        return true;
+    case HelpKind::HelpOnHelp: return false;
+    }
+    return false;
+}
+
+}  // namespace
+
+bool Win32Ui::fileExists(std::string_view path) {
+    const std::string name(path.substr(0, path.find('\0')));
+    const DWORD attributes = GetFileAttributesA(name.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
 void Win32Ui::help(const HelpRequest& request) {
     HWND owner = windowOf(request.owner);
+    if (!request.htmlFile.empty() && openHtmlHelp(owner, request)) return;
     const char* file = request.file.c_str();
     switch (request.kind) {
     case HelpKind::Context: WinHelpA(owner, file, HELP_CONTEXT, request.context); break;

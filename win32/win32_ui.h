@@ -20,6 +20,7 @@ public:
     void endWait(std::uintptr_t previous) override;
     void beep() override;
     bool copyText(WindowRef owner, std::string_view text) override;
+    bool fileExists(std::string_view path) override;
     BitmapRef loadBitmap(std::string_view name) override;
     void deleteBitmap(BitmapRef bitmap) override;
     std::uint32_t systemColour(SystemColour which) override;

@@ -34,8 +34,11 @@ LRESULT CALLBACK HelpCatcher::procedure(HWND window, UINT message, WPARAM wParam
     } else if (message == WM_COPYDATA) {
         const auto* data = reinterpret_cast<const COPYDATASTRUCT*>(lParam);
         auto* self = reinterpret_cast<HelpCatcher*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-        if (data && data->dwData == kWinHelpCopyDataTag && self && self->sink_) {
-            const auto line = winHelpLine(static_cast<const unsigned char*>(data->lpData), data->cbData);
+        const bool winHelp = data && data->dwData == kWinHelpCopyDataTag;
+        const bool htmlHelp = data && data->dwData == kHtmlHelpCopyDataTag;
+        if ((winHelp || htmlHelp) && self && self->sink_) {
+            const auto* block = static_cast<const unsigned char*>(data->lpData);
+            const auto line = winHelp ? winHelpLine(block, data->cbData) : htmlHelpLine(block, data->cbData);
             if (line) self->sink_(*line);
             return TRUE;
         }

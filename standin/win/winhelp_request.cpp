@@ -48,4 +48,28 @@ std::optional<std::string> winHelpLine(const unsigned char* block, std::size_t s
     }
 }
 
+std::string htmlHelpBlock(unsigned command, std::uint32_t data, const std::string& file, const std::string& key) {
+    std::string block;
+    for (std::uint32_t value : {static_cast<std::uint32_t>(command), data})
+        for (int shift = 0; shift < 32; shift += 8) block += static_cast<char>((value >> shift) & 0xFFu);
+    block += file;
+    block += '\0';
+    block += key;
+    block += '\0';
+    return block;
+}
+
+std::optional<std::string> htmlHelpLine(const unsigned char* block, std::size_t size) {
+    constexpr std::size_t kHtmlHeader = 8;
+    constexpr unsigned kToc = 0x0001, kIndex = 0x0002, kContext = 0x000F;
+    if (!block || size < kHtmlHeader) return std::nullopt;
+    const std::string file = textAt(block, size, kHtmlHeader);
+    switch (dword(block)) {
+    case kContext: return scenario::htmlHelpContextLine(file, dword(block + 4));
+    case kToc: return scenario::htmlHelpContentsLine(file);
+    case kIndex: return scenario::htmlHelpKeyLine(file, textAt(block, size, kHtmlHeader + file.size() + 1));
+    default: return "help " + scenario::quote(file) + " html command " + std::to_string(dword(block));
+    }
+}
+
 }  // namespace kvs::standin

@@ -26,4 +26,17 @@ inline constexpr std::uintptr_t kWinHelpCopyDataTag = 0xA1DE505;
 // block is too short to be a request.
 std::optional<std::string> winHelpLine(const unsigned char* block, std::size_t size);
 
+// HTML Help requests as the stand-in hhctrl.ocx of the scenario runs hands
+// them to the same window, dwData 0x4848434B ("HHCK"):
+//
+//   offset 0   DWORD command (HH_HELP_CONTEXT, HH_DISPLAY_TOC, HH_DISPLAY_INDEX)
+//          4   DWORD data (the context number)
+//          8   the file name, NUL-terminated, then the key, NUL-terminated
+inline constexpr std::uintptr_t kHtmlHelpCopyDataTag = 0x4848434B;
+
+// Writes a request in that form.
+std::string htmlHelpBlock(unsigned command, std::uint32_t data, const std::string& file, const std::string& key);
+// Its transcript line: help "FILE" html context N, html contents, html key "KEY".
+std::optional<std::string> htmlHelpLine(const unsigned char* block, std::size_t size);
+
 }  // namespace kvs::standin

@@ -8,6 +8,7 @@
 
 #include "core/descriptor.h"
 #include "core/generic_dialog.h"
+#include "core/help_requests.h"
 #include "core/library_state.h"
 #include "families/library.h"
 #include "headless/embedded_resources.h"
@@ -173,3 +174,14 @@ TEST_F(StartDialogTest, AFailedDialogLeavesTheLibraryIdle) {
 }
 
 }  // namespace
+
+// The .chm opened in place of a .hlp: same folder and name, the extension's
+// case kept; anything that is not a .hlp has none.
+TEST(HtmlHelpBeside, SwapsTheExtensionOfAHelpFileOnly) {
+    EXPECT_EQ(kvs::htmlHelpBeside("C:\\KORVAN\\KORVAN.HLP"), "C:\\KORVAN\\KORVAN.CHM");
+    EXPECT_EQ(kvs::htmlHelpBeside("d:\\help\\stats.hlp"), "d:\\help\\stats.chm");
+    EXPECT_EQ(kvs::htmlHelpBeside("C:\\A.Hlp"), "C:\\A.Chm");
+    EXPECT_EQ(kvs::htmlHelpBeside(".hlp"), "");
+    EXPECT_EQ(kvs::htmlHelpBeside("C:\\KORVAN\\KORVAN.CHM"), "");
+    EXPECT_EQ(kvs::htmlHelpBeside(""), "");
+}

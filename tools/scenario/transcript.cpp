@@ -55,6 +55,13 @@ std::string helpKeyLine(std::string_view file, std::string_view key) {
     return "help " + quote(file) + " key " + quote(key);
 }
 std::string helpOnHelpLine(std::string_view file) { return "help " + quote(file) + " helponhelp"; }
+std::string htmlHelpContextLine(std::string_view file, unsigned long context) {
+    return "help " + quote(file) + " html context " + std::to_string(context);
+}
+std::string htmlHelpContentsLine(std::string_view file) { return "help " + quote(file) + " html contents"; }
+std::string htmlHelpKeyLine(std::string_view file, std::string_view key) {
+    return "help " + quote(file) + " html key " + quote(key);
+}
 
 std::string errorLine(std::string_view what) { return "error " + quote(what); }
 

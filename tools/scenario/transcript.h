@@ -27,6 +27,10 @@ std::string helpContextLine(std::string_view file, unsigned long context);
 std::string helpContentsLine(std::string_view file);
 std::string helpKeyLine(std::string_view file, std::string_view key);
 std::string helpOnHelpLine(std::string_view file);
+// A request HTML Help opened: "help FILE html context N", "html contents", "html key KEY".
+std::string htmlHelpContextLine(std::string_view file, unsigned long context);
+std::string htmlHelpContentsLine(std::string_view file);
+std::string htmlHelpKeyLine(std::string_view file, std::string_view key);
 // A statement the runner could not carry out, or a fault it saw.
 std::string errorLine(std::string_view what);
 

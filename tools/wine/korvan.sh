@@ -13,4 +13,9 @@ kvs_need_display "$0" "$@"
 [ -f "$KVS_WINE_DIR/KORVAN.exe" ] || { echo "wine: no $KVS_WINE_DIR/KORVAN.exe (run scripts/build.sh x86_64)" >&2; exit 2; }
 kvs_wine_prefix
 kvs_clean_temp
+# Scenario runs take HTML Help requests as transcript lines: the stand-in
+# hhctrl.ocx beside KORVAN.exe, not Wine's viewer.
+if [ "${1:-}" = "--scenario" ]; then
+  export WINEDLLOVERRIDES="hhctrl.ocx=n${WINEDLLOVERRIDES:+;$WINEDLLOVERRIDES}"
+fi
 kvs_wine "$KVS_WINE_DIR/KORVAN.exe" "$@"

@@ -96,4 +96,18 @@ KVS_TEST(help_blocks_are_read_within_their_bounds) {
     KVS_CHECK_EQ(std::string("help \"M.HLP\" command 258"), winHelpLine(bytes.data(), bytes.size()).value_or(""));
 }
 
+// The stand-in hhctrl.ocx's blocks read back as the transcript writes HTML
+// Help requests, and a short block is refused.
+KVS_TEST(html_help_blocks_read_as_the_transcript_writes_them) {
+    using kvs::standin::htmlHelpBlock;
+    using kvs::standin::htmlHelpLine;
+    const auto line = [](const std::string& block) {
+        return htmlHelpLine(reinterpret_cast<const unsigned char*>(block.data()), block.size()).value_or("(none)");
+    };
+    KVS_CHECK_EQ(std::string("help \"C:\\\\K.CHM\" html context 72"), line(htmlHelpBlock(0x0F, 72, "C:\\K.CHM", "")));
+    KVS_CHECK_EQ(std::string("help \"K.CHM\" html contents"), line(htmlHelpBlock(0x01, 0, "K.CHM", "")));
+    KVS_CHECK_EQ(std::string("help \"K.CHM\" html key \"keys\""), line(htmlHelpBlock(0x02, 0, "K.CHM", "keys")));
+    KVS_CHECK(!htmlHelpLine(reinterpret_cast<const unsigned char*>("\x0F\0\0"), 3));
+}
+
 }  // namespace
