@@ -8,6 +8,7 @@
 #include "win32/graph_resources.h"
 #include "win32/microscroll.h"
 #include "win32/module_instance.h"
+#include "win32/visual_styles.h"
 #include "win32/win32_ui.h"
 
 namespace {
@@ -37,6 +38,7 @@ void detach(bool processEnding) {
     // procedure would point into unmapped code when the library is loaded
     // again elsewhere.
     if (!processEnding) {
+        kvs::win32::releaseVisualStyles();
         kvs::win32::unregisterMicroscroll(kvs::win32::moduleInstance());
         kvs::win32::unregisterColourGrid(kvs::win32::moduleInstance());
     }

@@ -1,5 +1,7 @@
 #include "win32/modeless_dialog.h"
 
+#include "win32/visual_styles.h"
+
 #include "core/export_guard.h"
 
 #include <optional>
@@ -120,6 +122,7 @@ DialogView* openModelessDialog(HWND owner, const std::string& templateName, Dial
     session.handler = &handler;
     // The exported procedure has the DLGPROC shape, spelled without windows.h.
     const auto procedure = reinterpret_cast<DLGPROC>(reinterpret_cast<void (*)()>(&ProcessDlgProc));
+    const VisualStyleScope styles;
     const HWND dialog = CreateDialogParamA(dialogInstance(), templateName.c_str(), owner, procedure,
                                            reinterpret_cast<LPARAM>(&session));
     if (!dialog || !session.view) {

@@ -10,6 +10,7 @@
 
 #include "core/file_filters.h"
 #include "win32/dialog_procedure.h"
+#include "win32/visual_styles.h"
 #include "win32/modeless_dialog.h"
 #include "win32/numeric_field_window.h"
 #include "win32/titled_template.h"
@@ -79,6 +80,7 @@ int Win32Ui::runModal(WindowRef owner, std::string_view templateName, DialogHand
     if (!FindResourceA(instance, name.c_str(), kDialogResourceType)) return -1;
     DialogSession session;
     session.handler = &handler;
+    const VisualStyleScope styles;
     const INT_PTR result = DialogBoxParamA(instance, name.c_str(), windowOf(owner), libraryDialogProcedure,
                                            reinterpret_cast<LPARAM>(&session));
     return static_cast<int>(result);
@@ -96,6 +98,7 @@ int Win32Ui::runModalTitled(WindowRef owner, std::string_view templateName, std:
     if (titled.empty()) return runModal(owner, templateName, handler);
     DialogSession session;
     session.handler = &handler;
+    const VisualStyleScope styles;
     const INT_PTR result =
         DialogBoxIndirectParamA(instance, reinterpret_cast<const DLGTEMPLATE*>(titled.data()), windowOf(owner),
                                 libraryDialogProcedure, reinterpret_cast<LPARAM>(&session));
@@ -104,6 +107,7 @@ int Win32Ui::runModalTitled(WindowRef owner, std::string_view templateName, std:
 
 int Win32Ui::messageBox(const MessageRequest& request) {
     const char* caption = request.caption ? request.caption->c_str() : nullptr;
+    const VisualStyleScope styles;
     return MessageBoxA(windowOf(request.owner), request.text.c_str(), caption,
                        iconStyle(request.icon) | buttonStyle(request.buttons));
 }
@@ -125,6 +129,7 @@ std::optional<std::string> Win32Ui::chooseFile(const FileRequest& request) {
     dialog.lpstrDefExt = request.defaultExtension.empty() ? nullptr : request.defaultExtension.c_str();
     dialog.Flags = request.flags;
 
+    const VisualStyleScope styles;
     const BOOL chosen = request.save ? GetSaveFileNameA(&dialog) : GetOpenFileNameA(&dialog);
     chooserError_ = chosen ? 0 : static_cast<std::uint32_t>(CommDlgExtendedError());
     if (!chosen) return std::nullopt;
@@ -258,6 +263,7 @@ std::optional<KvsLogFont> Win32Ui::chooseFont(const FontRequest& request) {
     chooser.Flags = CF_SCREENFONTS | CF_TTONLY | CF_INITTOLOGFONTSTRUCT | CF_ENABLEHOOK;
     chooser.lCustData = reinterpret_cast<LPARAM>(&request);
     chooser.lpfnHook = fontHook;
+    const VisualStyleScope styles;
     if (!ChooseFontA(&chooser)) return std::nullopt;
     KvsLogFont chosen;
     std::memcpy(&chosen, &font, sizeof chosen);

@@ -1,0 +1,28 @@
+// The library's windows in the current look of Windows: an activation
+// context made from the common-controls 6 manifest in the DLL's resources
+// is active only while a library window is created and runs, so the host's
+// own windows keep theirs whatever its own manifest says.
+#pragma once
+
+#include <windows.h>
+
+namespace kvs::win32 {
+
+// Made from the DLL's manifest resource when the first library window opens
+// (not under the loader lock); released at unload.
+void releaseVisualStyles();
+
+// Activates the context for its lifetime (nothing when there is none).
+class VisualStyleScope {
+public:
+    VisualStyleScope();
+    ~VisualStyleScope();
+    VisualStyleScope(const VisualStyleScope&) = delete;
+    VisualStyleScope& operator=(const VisualStyleScope&) = delete;
+
+private:
+    ULONG_PTR cookie_ = 0;
+    bool active_ = false;
+};
+
+}  // namespace kvs::win32
