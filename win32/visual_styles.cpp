@@ -28,6 +28,21 @@ HANDLE visualStyles() {
     return context;
 }
 
+using SetDpiContext = void*(WINAPI*)(void*);
+
+SetDpiContext setThreadDpiContext() {
+    static const SetDpiContext function = [] {
+        HMODULE user = GetModuleHandleA("user32.dll");
+        return user ? reinterpret_cast<SetDpiContext>(
+                          reinterpret_cast<void*>(GetProcAddress(user, "SetThreadDpiAwarenessContext")))
+                    : nullptr;
+    }();
+    return function;
+}
+
+// DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2
+void* const kPerMonitorV2 = reinterpret_cast<void*>(static_cast<INT_PTR>(-4));
+
 }  // namespace
 
 void releaseVisualStyles() {
@@ -39,9 +54,11 @@ void releaseVisualStyles() {
 VisualStyleScope::VisualStyleScope() {
     const HANDLE styles = visualStyles();
     if (styles != INVALID_HANDLE_VALUE) active_ = ActivateActCtx(styles, &cookie_) != FALSE;
+    if (const SetDpiContext set = setThreadDpiContext()) previousDpi_ = set(kPerMonitorV2);
 }
 
 VisualStyleScope::~VisualStyleScope() {
+    if (previousDpi_) setThreadDpiContext()(previousDpi_);
     if (active_) DeactivateActCtx(0, cookie_);
 }
 

@@ -12,7 +12,11 @@ namespace kvs::win32 {
 // (not under the loader lock); released at unload.
 void releaseVisualStyles();
 
-// Activates the context for its lifetime (nothing when there is none).
+// For its lifetime: the context active (nothing when there is none), and
+// the thread aware of each monitor's DPI, so the windows it creates are
+// laid out at their monitor's scale instead of stretched from 96 DPI
+// (SetThreadDpiAwarenessContext, looked up at run time: older Windows lack
+// it and go on as before).
 class VisualStyleScope {
 public:
     VisualStyleScope();
@@ -23,6 +27,7 @@ public:
 private:
     ULONG_PTR cookie_ = 0;
     bool active_ = false;
+    void* previousDpi_ = nullptr;
 };
 
 }  // namespace kvs::win32

@@ -397,13 +397,21 @@ void Win32DialogView::limitText(int id, std::size_t count) {
 
 void Win32DialogView::setCaption(std::string_view text) { SetWindowTextA(dialog_, cString(text).c_str()); }
 
+// Half the screen less half the dialog, plus one pixel; the screen is the
+// monitor of the owner window (with one monitor, the whole screen).
 void Win32DialogView::centre() {
     RECT frame{};
     if (!GetWindowRect(dialog_, &frame)) return;
     const int width = frame.right - frame.left;
     const int height = frame.bottom - frame.top;
-    const int left = GetSystemMetrics(SM_CXSCREEN) / 2 - width / 2 + 1;
-    const int top = GetSystemMetrics(SM_CYSCREEN) / 2 - height / 2 + 1;
+    HWND owner = GetWindow(dialog_, GW_OWNER);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    if (GetMonitorInfoA(MonitorFromWindow(owner ? owner : dialog_, MONITOR_DEFAULTTOPRIMARY), &monitor))
+        screen = monitor.rcMonitor;
+    const int left = screen.left + (screen.right - screen.left) / 2 - width / 2 + 1;
+    const int top = screen.top + (screen.bottom - screen.top) / 2 - height / 2 + 1;
     SetWindowPos(dialog_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
