@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/seam.h"
@@ -82,6 +83,8 @@ public:
     void comboSelect(int id, int index) override;
     std::pair<int, int> editSelection(int id) const override;
     void setEditSelection(int id, int start, int end) override;
+    std::string labelOf(int id) const override;
+    void setAccessibleName(int id, std::string_view name) override;
     void centre() override { centred_ = true; }
     void end(int result) override;
 
@@ -113,6 +116,11 @@ public:
     bool isEdit(int id) const { return kindOf(id) == ControlKind::Edit; }
     bool isStatic(int id) const { return kindOf(id) == ControlKind::Static; }
 
+    // What a screen reader reads for the control: the name the logic gave
+    // it, else its text without the mnemonic mark, as the standard
+    // accessibility proxy gives it.
+    std::string accessibleName(int id) const;
+
     int focus() const { return focus_; }  // 0: none
     bool centred() const { return centred_; }
     bool ended() const { return ended_; }
@@ -137,6 +145,7 @@ private:
     int result_ = 0;
 
     std::function<void(int)> onMissing_;
+    std::unordered_map<int, std::string> accessibleNames_;
 
     const ControlState* find(int id) const;
     ControlState* find(int id);
