@@ -118,28 +118,34 @@ bool handleListTransfer(DialogView& view, int controlId, int notifyCode, const T
 
 namespace {
 
-// The row whose Add takes names from list `from` into list `to`, or whose
-// Remove a drop of target `from` onto its source list `to` stands for.
-const ListTransferRow* rowOfDrop(const DialogView& view, int from, int to, const TargetCapacity& capacity,
-                                 ListDrop& kind) {
+struct Drop {
+    ListDrop kind = ListDrop::None;
+    const ListTransferRow* row = nullptr;
+};
+
+// The row whose Add takes names from list `from` into list `to`, whose
+// Remove a drop of target `from` onto its source `to` stands for, or whose
+// target `from` and `to` both are.
+Drop rowOfDrop(const DialogView& view, int from, int to, const TargetCapacity& capacity) {
     for (const ListTransferRow& row : kListTransfers) {
         if (!isUsed(view, row, capacity)) continue;
         const int source = sourceListOf(view, row);
-        if (from == source && to == row.targetList) {
-            kind = ListDrop::Add;
-            return &row;
-        }
-        if (from == row.targetList && to == source) {
-            kind = ListDrop::Remove;
-            return &row;
-        }
-        if (from == row.targetList && to == row.targetList) {
-            kind = ListDrop::Reorder;
-            return &row;
-        }
+        if (from == source && to == row.targetList) return {ListDrop::Add, &row};
+        if (from == row.targetList && to == source) return {ListDrop::Remove, &row};
+        if (from == row.targetList && to == row.targetList) return {ListDrop::Reorder, &row};
     }
-    kind = ListDrop::None;
-    return nullptr;
+    return {};
+}
+
+// A drop does what the button beside the lists would do, so it is refused
+// where that button is disabled: the dialog's own rules hold for the mouse
+// as they do for the buttons.
+Drop dropOf(const DialogView& view, int from, int to, const TargetCapacity& capacity) {
+    const Drop drop = rowOfDrop(view, from, to, capacity);
+    if (!drop.row || !view.isEnabled(from) || !view.isEnabled(to) || view.listSelection(from).empty()) return {};
+    if (drop.kind == ListDrop::Add && !view.isEnabled(drop.row->addButton)) return {};
+    if (drop.kind == ListDrop::Remove && !view.isEnabled(drop.row->removeButton)) return {};
+    return drop;
 }
 
 }  // namespace
@@ -152,26 +158,16 @@ bool canDragFrom(const DialogView& view, int listId, const TargetCapacity& capac
     return false;
 }
 
-// A drop does what the button beside the lists would do, so it is refused
-// where that button is disabled: the dialog's own rules (a graph dialog
-// greying a list's arrows) hold for the mouse as they do for the buttons.
 ListDrop listDropOf(const DialogView& view, int from, int to, const TargetCapacity& capacity) {
-    ListDrop kind = ListDrop::None;
-    const ListTransferRow* row = rowOfDrop(view, from, to, capacity, kind);
-    if (!row || !view.isEnabled(from) || !view.isEnabled(to) || view.listSelection(from).empty()) return ListDrop::None;
-    if (kind == ListDrop::Add && !view.isEnabled(row->addButton)) return ListDrop::None;
-    if (kind == ListDrop::Remove && !view.isEnabled(row->removeButton)) return ListDrop::None;
-    return kind;
+    return dropOf(view, from, to, capacity).kind;
 }
 
 bool handleListDrop(DialogView& view, int from, int to, int at, const TargetCapacity& capacity, ListInsert how) {
-    const ListDrop kind = listDropOf(view, from, to, capacity);
-    ListDrop rowKind = ListDrop::None;
-    const ListTransferRow* row = rowOfDrop(view, from, to, capacity, rowKind);
-    switch (kind) {
+    const Drop drop = dropOf(view, from, to, capacity);
+    switch (drop.kind) {
     case ListDrop::None: return false;
-    case ListDrop::Add: addSelected(view, *row, capacity(row->targetList), how, at); break;
-    case ListDrop::Remove: removeSelected(view, *row); break;
+    case ListDrop::Add: addSelected(view, *drop.row, capacity(drop.row->targetList), how, at); break;
+    case ListDrop::Remove: removeSelected(view, *drop.row); break;
     case ListDrop::Reorder:
         applyReordering(view, to, moveSelectionTo(view.listCount(to), view.listSelection(to), at));
         break;

@@ -53,10 +53,14 @@ DialogSession* sessionOf(HWND list) {
     return session && session->handler && session->view ? session : nullptr;
 }
 
-// The entry under a client point, or -1.
+// The entry under a client point, or -1. LB_ITEMFROMPOINT answers in 16
+// bits; the entry is a visible one, so in a list of more than 65,535 it is
+// the one at or after the top entry with those low bits.
 int entryAt(HWND list, POINT at) {
     const LRESULT hit = SendMessageA(list, LB_ITEMFROMPOINT, 0, lParamOf(at));
-    return HIWORD(hit) != 0 ? -1 : static_cast<int>(LOWORD(hit));
+    if (HIWORD(hit) != 0) return -1;
+    const auto top = static_cast<int>(SendMessageA(list, LB_GETTOPINDEX, 0, 0));
+    return top + static_cast<WORD>(LOWORD(hit) - static_cast<WORD>(top));
 }
 
 // Before which entry a drop at a client point lands: the entry under it, or
@@ -141,7 +145,9 @@ void drop(HWND from, POINT at) {
 }
 
 bool onPress(HWND list, WNDPROC previous, WPARAM keys, LPARAM lParam, LRESULT& result) {
-    if (press.list) return false;
+    // A press still watched holds the mouse; one that lost it is over.
+    if (press.list && GetCapture() == press.list) return false;
+    press = Press{};
     DialogSession* session = sessionOf(list);
     if (!session || (keys & (MK_SHIFT | MK_CONTROL)) != 0 ||
         !session->handler->canDrop(*session->view, GetDlgCtrlID(list), 0))
@@ -235,8 +241,8 @@ bool onGesture(HWND list, WNDPROC previous, UINT message, WPARAM wParam, LPARAM 
     case WM_MOUSEMOVE: return onMove(list, previous, wParam, lParam);
     case WM_LBUTTONUP: return onRelease(list, previous, wParam, lParam, result);
     case WM_CAPTURECHANGED:
-        // Another window took the mouse: the drag is over.
-        if (press.list == list && (press.held || press.dragging) && reinterpret_cast<HWND>(lParam) != list) press = Press{};
+        // Another window took the mouse: the press or the drag is over.
+        if (press.list == list && reinterpret_cast<HWND>(lParam) != list) press = Press{};
         return false;
     case WM_SETCURSOR:
         // The drop cursor stays while dragging.

@@ -9,9 +9,12 @@
 #include "core/dialog_behaviour.h"
 #include "core/dispatch_table.h"
 #include "core/list_reorder.h"
+#include "core/list_transfer.h"
 #include "core/transfer_names.h"
 #include "families/library.h"
+#include "fake_ui.h"
 #include "headless/embedded_resources.h"
+#include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
 #include "resources/list_transfer.h"
 
@@ -146,6 +149,53 @@ TEST(MoveButtons, FollowTheirListAndOverlapNothing) {
     }
     // Sort, Order and the thirteen graph dialogs with a Y list.
     EXPECT_EQ(dialogs, 15);
+}
+
+// Counts the beeps of a full list.
+class BeepingUi : public kvs::testing::FakeUi {
+public:
+    int beeps = 0;
+    void beep() override { ++beeps; }
+};
+
+std::vector<std::string> namesIn(const kvs::DialogView& view, int list) {
+    std::vector<std::string> names;
+    for (int i = 0; i < view.listCount(list); ++i) names.push_back(view.listText(list, i));
+    return names;
+}
+
+// A drop goes through Add's own routine: the target's capacity holds, and a
+// drop is refused where the button that does the same is disabled.
+TEST(ListDrop, KeepsTheCapacityAndTheButtonsRules) {
+    BeepingUi fake;
+    kvs::setUi(&fake);
+    kvs::headless::HeadlessDialog sort(*resources().dialog("SORT"));
+    const auto capacity = [](int list) { return list == IDC_TARGET1 ? 3 : 0; };
+    for (const char* name : {"a", "b", "c", "d", "e"}) sort.listAdd(IDC_SOURCE, name, kvs::ListInsert::Append);
+    sort.listAdd(IDC_TARGET1, "c", kvs::ListInsert::Append);
+    for (int i : {1, 2, 3, 4}) sort.listSelect(IDC_SOURCE, i, true);
+    kvs::updateTransferButtons(sort, capacity);
+    EXPECT_EQ(kvs::listDropOf(sort, IDC_SOURCE, IDC_TARGET1, capacity), kvs::ListDrop::Add);
+    EXPECT_EQ(kvs::listDropOf(sort, IDC_SOURCE, IDC_SOURCE, capacity), kvs::ListDrop::None);
+    // b and d fill the list (c is there); e finds no room.
+    EXPECT_TRUE(kvs::handleListDrop(sort, IDC_SOURCE, IDC_TARGET1, 0, capacity, kvs::ListInsert::Append));
+    EXPECT_EQ(namesIn(sort, IDC_TARGET1), (std::vector<std::string>{"b", "d", "c"}));
+    EXPECT_EQ(fake.beeps, 1);
+    EXPECT_TRUE(sort.listSelection(IDC_SOURCE).empty());
+
+    sort.listSelect(IDC_TARGET1, 2, true);
+    kvs::updateTransferButtons(sort, capacity);
+    EXPECT_EQ(kvs::listDropOf(sort, IDC_TARGET1, IDC_SOURCE, capacity), kvs::ListDrop::Remove);
+    sort.enable(IDC_REMOVE1, false);
+    EXPECT_FALSE(kvs::handleListDrop(sort, IDC_TARGET1, IDC_SOURCE, 0, capacity, kvs::ListInsert::Append));
+    EXPECT_EQ(namesIn(sort, IDC_TARGET1).size(), 3u);
+    EXPECT_FALSE(kvs::handleListDelete(sort, IDC_TARGET1, capacity));
+    // Within the list the drop moves c first.
+    EXPECT_TRUE(kvs::handleListDrop(sort, IDC_TARGET1, IDC_TARGET1, 0, capacity, kvs::ListInsert::Append));
+    EXPECT_EQ(namesIn(sort, IDC_TARGET1), (std::vector<std::string>{"c", "b", "d"}));
+    // A list the dialog does not use takes no drop.
+    EXPECT_EQ(kvs::listDropOf(sort, IDC_TARGET1, IDC_TARGET1, [](int) { return 0; }), kvs::ListDrop::None);
+    kvs::setUi(nullptr);
 }
 
 // Each list an Add button serves has a label just before it, which names
