@@ -7,6 +7,7 @@
 
 #include "core/composition.h"
 #include "core/seam.h"
+#include "resources/common_ids.h"
 
 namespace kvs {
 
@@ -89,6 +90,9 @@ public:
         (void)listId;
         return capacity;
     }
+    // The target list whose order Move Up and Move Down change, when the
+    // template has them.
+    virtual int orderedList() const { return IDC_TARGET1; }
     // The context the Help button opens, and the help-context word's value.
     virtual std::uint32_t helpContext(std::uint16_t commandId) const { return commandId; }
     // Adds what the dialog remembers between openings to the defaults table

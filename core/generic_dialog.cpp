@@ -110,6 +110,8 @@ int GenericDialog::onInit(DialogView& view) {
     }
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
     installPreview(view);
+    updateReorderButtons(view);
+    nameTransferButtons(view);
     if (focus) view.setFocus(focus);
     return focus;
 }
@@ -159,10 +161,15 @@ void GenericDialog::handleCommand(DialogView& view, int controlId, int notifyCod
     DialogContext context{view, *this};
     if (controlId != kIdOk && controlId != kIdCancel &&
         handleListTransfer(view, controlId, notifyCode, capacity, listInsertRule())) {
+        updateReorderButtons(view);
         if (behaviour_) behaviour_->listsChanged(context);
         return;
     }
     switch (controlId) {
+    case IDC_MOVE_UP:
+    case IDC_MOVE_DOWN:
+        if (notifyCode == kButtonClicked) moveEntries(view, controlId);
+        return;
     case IDC_HELPBUTTON: help(view); return;
     case IDC_RESETALL: resetAll(view); return;
     case kIdCancel: close(view, kIdCancel); return;
@@ -211,6 +218,7 @@ void GenericDialog::resetAll(DialogView& view) {
         behaviour_->reset(context);
     }
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
+    updateReorderButtons(view);
 }
 
 void GenericDialog::onSysCommand(DialogView&, int code) { answerHelpCommand(code); }

@@ -24,6 +24,11 @@ public:
     int onInit(DialogView& view) override;
     void onCommand(DialogView& view, int controlId, int notifyCode) override;
     void onSysCommand(DialogView& view, int code) override;
+    // Drag and drop, Delete and Ctrl+A in the lists, Move Up and Move Down:
+    // core/list_gestures.cpp.
+    bool canDrop(DialogView& view, int fromList, int toList) override;
+    void onDrop(DialogView& view, int fromList, int toList, int index) override;
+    bool onListKey(DialogView& view, int listId, ListKey key) override;
 
     std::uint16_t commandId() const { return commandId_; }
     // The names behind source list 4 or 5, for behaviours that refill them.
@@ -52,6 +57,14 @@ private:
     void resetAll(DialogView& view);
     void installPreview(DialogView& view);
     void refreshPreview(DialogView& view);
+    // The list Move Up and Move Down serve, and the moves themselves.
+    int orderedList() const;
+    void moveEntries(DialogView& view, int buttonId);
+    void updateReorderButtons(DialogView& view);
+    // Accessible names of the Add, Remove and Move buttons, from their lists' labels.
+    void nameTransferButtons(DialogView& view);
+    // After names moved or a selection changed: buttons and the behaviour follow.
+    void listsChanged(DialogView& view);
     std::uint32_t helpContext() const;
 
     const DispatchRow& row_;

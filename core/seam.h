@@ -165,6 +165,15 @@ public:
     virtual void moveControl(int id, const DialogRect& rect) { (void)id, (void)rect; }
     virtual void growClient(int width, int height) { (void)width, (void)height; }
     virtual bool addControl(const AddedControl& control) { (void)control; return false; }
+    // The text of the static label just before control id in the template
+    // (the label a user reads for a list, edit or combo box); empty if none.
+    virtual std::string labelOf(int id) const {
+        (void)id;
+        return {};
+    }
+    // The name assistive technology reads for control id in place of the
+    // control's own text (an arrow button's "-->").
+    virtual void setAccessibleName(int id, std::string_view name) { (void)id, (void)name; }
 
     // The dialog's own title.
     virtual void setCaption(std::string_view text) = 0;
@@ -176,6 +185,9 @@ public:
 protected:
     mutable std::unordered_map<int, std::vector<std::string>> textsRead_;  // by list id, for listTexts
 };
+
+// Keys a list box hands the dialog rather than handling them itself.
+enum class ListKey { Delete, SelectAll };
 
 // What a backend calls while a dialog runs.
 class DialogHandler {
@@ -192,6 +204,23 @@ public:
     // a control the library draws itself (the colour grid).
     virtual void onClick(DialogView& view, int controlId, int x, int y, int width, int height) {
         (void)view, (void)controlId, (void)x, (void)y, (void)width, (void)height;
+    }
+    // Drag and drop between list boxes: whether the selection of list from
+    // may be dropped on list to (to 0: whether a drag may start in from at
+    // all), and the drop itself, before item index of list to (its count: at
+    // the end).
+    virtual bool canDrop(DialogView& view, int fromList, int toList) {
+        (void)view, (void)fromList, (void)toList;
+        return false;
+    }
+    virtual void onDrop(DialogView& view, int fromList, int toList, int index) {
+        (void)view, (void)fromList, (void)toList, (void)index;
+    }
+    // A key pressed in a list box; true when the dialog acted on it, false
+    // leaves the key to the list box.
+    virtual bool onListKey(DialogView& view, int listId, ListKey key) {
+        (void)view, (void)listId, (void)key;
+        return false;
     }
     // The user closed the window (WM_CLOSE); a modal dialog takes it as Cancel.
     virtual void onClose(DialogView& view) { onCommand(view, 2 /* IDCANCEL */, kButtonClicked); }

@@ -119,6 +119,9 @@ public:
         return spec_.id == 101 && listId == kXList ? 1 : capacity;
     }
 
+    // The Y-variables are written in list order.
+    int orderedList() const override { return kYList; }
+
     void addDefaults(DefaultsTable& table) override {
         table.record(remembered_);
         table.record(rememberedTranspose_);

@@ -260,6 +260,37 @@ bool HeadlessBackend::moveFocus(DialogWindow& window, int target) {
     return true;
 }
 
+// The press on the list gives it the focus; a drag the dialog does not take
+// from that list, or a drop it does not take there, changes nothing, as the
+// real list box's drag code asks the dialog the same.
+void HeadlessBackend::dragSelection(int from, int to, int at) {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    HeadlessDialog& d = *window->dialog;
+    moveFocus(*window, from);
+    if (!window->handler->canDrop(d, from, 0)) return;
+    window->handler->onDrop(d, from, to, at < 0 ? d.listCount(to) : at);
+}
+
+// A key the dialog does not take is left to the list box, which does
+// nothing with Delete or Ctrl+A.
+void HeadlessBackend::pressKeyIn(int id, scenario::Key key) {
+    DialogWindow* window = dialog();
+    if (!window) return;
+    moveFocus(*window, id);
+    window->handler->onListKey(*window->dialog, id, key == scenario::Key::Delete ? ListKey::Delete : ListKey::SelectAll);
+}
+
+int HeadlessBackend::focusedControl() {
+    DialogWindow* window = dialog();
+    return window ? window->dialog->focus() : 0;
+}
+
+std::string HeadlessBackend::accessibleName(int id) {
+    DialogWindow* window = dialog();
+    return window ? window->dialog->accessibleName(id) : std::string();
+}
+
 // Tab moves the focus to the next control, in template order, that is a
 // visible, enabled tab stop; an edit field it reaches has its text selected.
 void HeadlessBackend::pressTab() {

@@ -50,6 +50,10 @@ public:
     bool answerFont(const std::optional<scenario::FontAnswer>& font) override;
     void dismissTop() override { ui_.dismissTop(); }
     std::optional<long> userWord() override;
+    void dragSelection(int from, int to, int at) override;
+    void pressKeyIn(int id, scenario::Key key) override;
+    int focusedControl() override;
+    std::string accessibleName(int id) override;
     void pressTab() override;
     void pressEnter() override;
     std::string clipboardText() override;

@@ -534,4 +534,23 @@ std::optional<int> HeadlessDialog::findByLabel(std::string_view label, bool fiel
     return std::nullopt;
 }
 
+// The static text just before the control in template order, as the
+// scenario drivers find a list by its label.
+std::string HeadlessDialog::labelOf(int id) const {
+    for (std::size_t i = 1; i < controls_.size(); ++i)
+        if (controls_[i].def.id == id)
+            return controls_[i - 1].def.kind == ControlKind::Static ? controls_[i - 1].text : std::string();
+    return {};
+}
+
+void HeadlessDialog::setAccessibleName(int id, std::string_view name) {
+    if (reach(id)) accessibleNames_[id] = std::string(name);
+}
+
+std::string HeadlessDialog::accessibleName(int id) const {
+    if (const auto named = accessibleNames_.find(id); named != accessibleNames_.end()) return named->second;
+    const ControlState* c = find(id);
+    return c ? withoutMnemonics(c->text) : std::string();
+}
+
 }  // namespace kvs::headless

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/seam.h"
@@ -88,6 +89,8 @@ public:
     void moveControl(int id, const DialogRect& rect) override;
     void growClient(int width, int height) override;
     bool addControl(const AddedControl& control) override;
+    std::string labelOf(int id) const override;
+    void setAccessibleName(int id, std::string_view name) override;
     void centre() override { centred_ = true; }
     void end(int result) override;
 
@@ -119,6 +122,11 @@ public:
     bool isEdit(int id) const { return kindOf(id) == ControlKind::Edit; }
     bool isStatic(int id) const { return kindOf(id) == ControlKind::Static; }
 
+    // What a screen reader reads for the control: the name the logic gave
+    // it, else its text without the mnemonic mark, as the standard
+    // accessibility proxy gives it.
+    std::string accessibleName(int id) const;
+
     int focus() const { return focus_; }  // 0: none
     bool centred() const { return centred_; }
     bool ended() const { return ended_; }
@@ -144,6 +152,7 @@ private:
     int result_ = 0;
 
     std::function<void(int)> onMissing_;
+    std::unordered_map<int, std::string> accessibleNames_;
 
     const ControlState* find(int id) const;
     ControlState* find(int id);

@@ -2,6 +2,7 @@
 
 #include "resources/common_ids.h"
 #include "win32/colour_grid_window.h"
+#include "win32/list_drag.h"
 #include "win32/module_instance.h"
 #include "win32/owner_drawn_button.h"
 #include "win32/picture_combo.h"
@@ -43,6 +44,7 @@ INT_PTR initialise(HWND dialog, DialogSession& session) {
     session.view.emplace(dialog);
     appendHelpMenu(dialog);
     const int focus = session.handler->onInit(*session.view);
+    attachListGestures(dialog);
     // FALSE tells the dialog manager the focus is set already.
     return focus != 0 ? FALSE : TRUE;
 }
@@ -97,6 +99,12 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
 }  // namespace
 
 HWND activeLibraryDialog() { return activeDialog; }
+
+DialogSession* librarySession(HWND dialog) {
+    return dialog && GetWindowLongPtrA(dialog, DWLP_DLGPROC) == reinterpret_cast<LONG_PTR>(libraryDialogProcedure)
+               ? sessionOf(dialog)
+               : nullptr;
+}
 
 // No exception may cross into the window manager: a failing handler ends
 // its dialog as cancelled.

@@ -21,6 +21,10 @@ struct DialogSession {
 
 INT_PTR CALLBACK libraryDialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
+// The session of a library dialog (its handler and view), or null for a
+// window that is none.
+DialogSession* librarySession(HWND dialog);
+
 // The innermost library dialog that is open, or null.
 HWND activeLibraryDialog();
 

@@ -6,6 +6,7 @@
 #include "core/seam.h"
 #include "win32/colour_grid_window.h"
 #include "win32/graph_resources.h"
+#include "win32/list_drag.h"
 #include "win32/microscroll.h"
 #include "win32/module_instance.h"
 #include "win32/visual_styles.h"
@@ -34,6 +35,7 @@ void attach(HINSTANCE instance) {
 // processEnding: the process exits rather than FreeLibrary unloading us.
 void detach(bool processEnding) {
     kvs::win32::deleteGraphPalette();
+    kvs::win32::releaseDragCursor();
     // A class of a DLL outlives the DLL; after a FreeLibrary its window
     // procedure would point into unmapped code when the library is loaded
     // again elsewhere.

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "win32/accessible_names.h"
 #include "win32/control_reading.h"
+#include "win32/late_bound.h"
 
 namespace kvs::win32 {
 
@@ -38,6 +40,11 @@ Kind kindOf(HWND control) {
     if (sameName(cls, "ComboBox")) return Kind::ComboBox;
     if (sameName(cls, "Edit")) return Kind::Edit;
     return Kind::Other;
+}
+
+bool isStaticText(HWND control) {
+    char name[16] = {};
+    return GetClassNameA(control, name, static_cast<int>(sizeof name)) > 0 && lstrcmpiA(name, "Static") == 0;
 }
 
 HWND ofKind(HWND control, Kind kind) { return control && kindOf(control) == kind ? control : nullptr; }
@@ -393,6 +400,17 @@ void Win32DialogView::setEditSelection(int id, int start, int end) {
 
 void Win32DialogView::limitText(int id, std::size_t count) {
     if (HWND edit = child(id)) send(edit, EM_LIMITTEXT, static_cast<WPARAM>(count));
+}
+
+// The static text before the control among the dialog's children, which
+// follow the template's order.
+std::string Win32DialogView::labelOf(int id) const {
+    const HWND before = previousSibling(child(id));
+    return before && isStaticText(before) ? windowText(before) : std::string();
+}
+
+void Win32DialogView::setAccessibleName(int id, std::string_view name) {
+    if (HWND control = child(id)) win32::setAccessibleName(control, name);
 }
 
 void Win32DialogView::setCaption(std::string_view text) { SetWindowTextA(dialog_, cString(text).c_str()); }

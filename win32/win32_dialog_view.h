@@ -51,6 +51,8 @@ public:
     std::pair<int, int> editSelection(int id) const override;
     void setEditSelection(int id, int start, int end) override;
 
+    std::string labelOf(int id) const override;
+    void setAccessibleName(int id, std::string_view name) override;
     void limitText(int id, std::size_t count) override;
     std::vector<ControlLayout> layout() const override;
     DialogRect controlRect(int id) const override;

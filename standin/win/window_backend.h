@@ -50,6 +50,12 @@ public:
     void pickMenuItem(int id) override;
     void dismissTop() override;
     std::optional<long> userWord() override;
+    // standin/win/window_backend_lists.cpp: the mouse and keys in list
+    // boxes, and what a screen reader reads.
+    void dragSelection(int from, int to, int at) override;
+    void pressKeyIn(int id, scenario::Key key) override;
+    int focusedControl() override;
+    std::string accessibleName(int id) override;
     void pressTab() override;
     void pressEnter() override;
     std::string clipboardText() override;

@@ -293,7 +293,7 @@ TEST(HeadlessDialogState, TemplateStateTextAndEnd) {
     EXPECT_NE(a.handle(), 0u);
     EXPECT_NE(a.handle(), b.handle());
     EXPECT_EQ(a.caption(), "Sort");
-    EXPECT_EQ(a.controls().size(), 13u);
+    EXPECT_EQ(a.controls().size(), 15u);
     EXPECT_EQ(a.text(6), " &Add-->");
     EXPECT_TRUE(a.has(-1));
     EXPECT_FALSE(a.has(777));

@@ -65,7 +65,7 @@ TEST(RcTemplateResources, SortTemplateHasItsControls) {
     EXPECT_EQ(sort->w, 312);
     EXPECT_EQ(sort->h, 150);
     EXPECT_EQ(sort->style & kWsCaption, kWsCaption);
-    EXPECT_EQ(sort->controls.size(), 13u);
+    EXPECT_EQ(sort->controls.size(), 15u);
 
     const ControlTemplate& source = byId(*sort, 4);
     EXPECT_EQ(source.kind, ControlKind::ListBox);

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/list_reorder.h"
 #include "core/seam.h"
 #include "tests/check/failures.h"
 
@@ -168,6 +169,30 @@ inline void focus(DialogView& view, const std::function<int()>& focused, Failure
     view.enable(kEdit, true);
 }
 
+// The label just before a control, and a reordering put into real entries
+// with their selection.
+inline void labelsAndReordering(DialogView& view, Failures& failures) {
+    KVS_EXPECT(failures, view.labelOf(kMultiList) == "&Names:");
+    KVS_EXPECT(failures, view.labelOf(kSortedList).empty());
+    KVS_EXPECT(failures, view.labelOf(kEditCombo).empty());
+    KVS_EXPECT(failures, view.labelOf(kMissing).empty());
+    view.listClear(kMultiList);
+    for (const char* name : {"a", "b", "c", "d"}) view.listAdd(kMultiList, name, ListInsert::Append);
+    applyReordering(view, kMultiList, moveSelectionTo(4, {0, 2}, 4));
+    KVS_EXPECT(failures, (items(view, kMultiList) == Strings{"b", "d", "a", "c"}));
+    KVS_EXPECT(failures, (view.listSelection(kMultiList) == Indices{2, 3}));
+    applyReordering(view, kMultiList, moveSelectionBy(4, {2, 3}, -1));
+    KVS_EXPECT(failures, (items(view, kMultiList) == Strings{"b", "a", "c", "d"}));
+    KVS_EXPECT(failures, (view.listSelection(kMultiList) == Indices{1, 2}));
+    view.listClear(kSortedList);
+    for (const char* name : {"a", "b", "c"}) view.listAdd(kSortedList, name, ListInsert::Sorted);
+    applyReordering(view, kSortedList, moveSelectionBy(3, {2}, -1));
+    KVS_EXPECT(failures, (items(view, kSortedList) == Strings{"a", "c", "b"}));
+    KVS_EXPECT(failures, (view.listSelection(kSortedList) == Indices{1}));
+    view.listClear(kSortedList);
+    view.listClear(kMultiList);
+}
+
 inline Failures runAll(DialogView& view, const std::function<int()>& focused) {
     Failures failures;
     missingAndWrongKind(view, failures);
@@ -178,6 +203,7 @@ inline Failures runAll(DialogView& view, const std::function<int()>& focused) {
     textAndButtons(view, failures);
     editSelection(view, failures);
     focus(view, focused, failures);
+    labelsAndReordering(view, failures);
     return failures;
 }
 

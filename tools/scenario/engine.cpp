@@ -343,6 +343,12 @@ void Engine::actOnDialog(const Statement& s) {
         }
         if (entry < 0) fail(s, "no such entry in control " + std::to_string(id));
         else backend_.chooseEntry(id, entry);
+    } else if (k == "drag") {
+        drag(s);
+    } else if (k == "key") {
+        pressKey(s);
+    } else if (k == "accname") {
+        if (const int id = needControl(0)) emit_("accname " + std::to_string(id) + " " + quote(backend_.accessibleName(id)));
     } else if (k == "tab") {
         backend_.pressTab();
     } else if (k == "enter") {
@@ -374,6 +380,69 @@ void Engine::actOnDialog(const Statement& s) {
     } else {
         fail(s, "'" + k + "' does not act on a dialog");
     }
+}
+
+namespace {
+
+bool isWord(const Token& token, std::string_view word) { return !token.quoted && token.text == word; }
+
+bool isList(Backend& backend, int id) {
+    const auto control = backend.controlState(id);
+    return control && control->kind == ControlKind::ListBox;
+}
+
+}  // namespace
+
+// drag LIST NAME... to LIST [at N]: the names are selected in the first list
+// (as a user's click would, with the notification), then dragged.
+void Engine::drag(const Statement& s) {
+    const auto usage = [&] { fail(s, "drag takes a list, names, 'to', a list and perhaps 'at N'"); };
+    std::size_t to = 2;
+    while (to < s.args.size() && !isWord(s.args[to], "to")) ++to;
+    const std::size_t rest = s.args.size() - std::min(s.args.size(), to + 1);
+    if (to >= s.args.size() || (rest != 1 && rest != 3) || (rest == 3 && !isWord(s.args[to + 2], "at")))
+        return usage();
+    const int from = controlId(s.args[0]);
+    const int target = controlId(s.args[to + 1]);
+    for (const auto& [id, token] : {std::pair{from, &s.args[0]}, std::pair{target, &s.args[to + 1]}}) {
+        if (!id) return fail(s, "no control " + quote(token->text) + " in " + quote(backend_.topText()));
+        if (!isList(backend_, id)) return fail(s, "control " + std::to_string(id) + " is not a list");
+    }
+    if (!backend_.controlState(from)->enabled) return fail(s, "control " + std::to_string(from) + " is disabled");
+    int at = -1;
+    if (rest == 3) {
+        const auto n = toNumber(s.args[to + 3].text);
+        const auto count = static_cast<long long>(backend_.control(target)->items.size());
+        if (!n || *n < 0 || *n > count) return fail(s, "list " + std::to_string(target) + " has no position " + s.args[to + 3].text);
+        at = static_cast<int>(*n);
+    }
+    std::vector<std::string> names;
+    for (std::size_t i = 1; i < to; ++i) names.push_back(s.args[i].text);
+    const auto indices = backend_.listIndicesOf(from, names);
+    if (!indices) return fail(s, "list " + std::to_string(from) + " lacks a name");
+    backend_.selectItems(from, *indices);
+    backend_.dragSelection(from, target, at);
+}
+
+// key [CTL] delete|ctrl+a: in the named list, or the focused one.
+void Engine::pressKey(const Statement& s) {
+    if (s.args.empty() || s.args.size() > 2) return fail(s, "key takes a list and delete or ctrl+a");
+    const Token& name = s.args.back();
+    Key key = Key::Delete;
+    if (isWord(name, "delete")) key = Key::Delete;
+    else if (isWord(name, "ctrl+a")) key = Key::SelectAll;
+    else return fail(s, "key presses delete or ctrl+a, not " + quote(name.text));
+    int id = 0;
+    if (s.args.size() == 2) {
+        id = controlId(s.args[0]);
+        if (!id) return fail(s, "no control " + quote(s.args[0].text) + " in " + quote(backend_.topText()));
+        if (!backend_.controlState(id)->enabled) return fail(s, "control " + std::to_string(id) + " is disabled");
+    } else {
+        id = backend_.focusedControl();
+        if (!id) return fail(s, "no control has the focus");
+    }
+    if (!isList(backend_, id)) return fail(s, "control " + std::to_string(id) + " is not a list");
+    backend_.pressKeyIn(id, key);
 }
 
 void Engine::actOnMessage(const Statement& s) {

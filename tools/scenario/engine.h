@@ -60,6 +60,9 @@ struct FontAnswer {
     bool italic = false;
 };
 
+// Keys the `key` statement presses in a list box.
+enum class Key { Delete, SelectAll };
+
 // The host, the kernel and the topmost library window, as one backend
 // offers them.
 class Backend {
@@ -135,6 +138,16 @@ public:
     // the progress window keeps the bar position it drew last; nothing when
     // no dialog is up.
     virtual std::optional<long> userWord() { return std::nullopt; }
+    // A press on the first selected entry of list from, a drag with the
+    // mouse and the release over list to, before its item at (-1: below the
+    // last item).
+    virtual void dragSelection(int from, int to, int at) = 0;
+    // A key pressed in control id, which takes the focus first.
+    virtual void pressKeyIn(int id, Key key) = 0;
+    // The control of the topmost dialog that has the focus; 0 for none.
+    virtual int focusedControl() = 0;
+    // The name assistive technology reads for the control.
+    virtual std::string accessibleName(int id) = 0;
     // The Tab and Enter keys, pressed in the topmost dialog.
     virtual void pressTab() = 0;
     virtual void pressEnter() = 0;
@@ -168,6 +181,8 @@ public:
 private:
     bool setup(const Statement& statement);
     void actOnDialog(const Statement& statement);
+    void drag(const Statement& statement);
+    void pressKey(const Statement& statement);
     void actOnMessage(const Statement& statement);
     void actOnChooser(const Statement& statement);
     void actOnFontChooser(const Statement& statement);

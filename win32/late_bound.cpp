@@ -1,0 +1,73 @@
+#include "win32/late_bound.h"
+
+#include <cstring>
+
+namespace kvs::win32 {
+
+namespace {
+
+// A function of a module by name, as the type it has.
+template <typename Function>
+Function resolve(HMODULE module, const char* name) {
+    const FARPROC found = module ? GetProcAddress(module, name) : nullptr;
+    Function function = nullptr;
+    static_assert(sizeof function == sizeof found);
+    if (found) std::memcpy(&function, &found, sizeof function);
+    return function;
+}
+
+HMODULE user32() { return GetModuleHandleW(L"user32.dll"); }
+
+// Loaded once and never freed: an object handed to a screen reader may
+// still call into it.
+HMODULE loaded(const wchar_t* name) {
+    HMODULE module = GetModuleHandleW(name);
+    return module ? module : LoadLibraryW(name);
+}
+
+}  // namespace
+
+HWND windowFromPoint(POINT screenPoint) {
+    using Function = HWND(WINAPI*)(POINT);
+    static const auto function = resolve<Function>(user32(), "WindowFromPoint");
+    return function ? function(screenPoint) : nullptr;
+}
+
+HWND previousSibling(HWND window) {
+    using Function = HWND(WINAPI*)(HWND, UINT);
+    static const auto function = resolve<Function>(user32(), "GetWindow");
+    return function && window ? function(window, GW_HWNDPREV) : nullptr;
+}
+
+HCURSOR createCursor(HINSTANCE instance, int hotX, int hotY, int width, int height, const void* andMask,
+                     const void* xorMask) {
+    using Function = HCURSOR(WINAPI*)(HINSTANCE, int, int, int, int, const void*, const void*);
+    static const auto function = resolve<Function>(user32(), "CreateCursor");
+    return function ? function(instance, hotX, hotY, width, height, andMask, xorMask) : nullptr;
+}
+
+void destroyCursor(HCURSOR cursor) {
+    using Function = BOOL(WINAPI*)(HCURSOR);
+    static const auto function = resolve<Function>(user32(), "DestroyCursor");
+    if (function && cursor) function(cursor);
+}
+
+HRESULT createStdAccessibleObject(HWND window, LONG objectId, REFIID iid, void** object) {
+    using Function = HRESULT(WINAPI*)(HWND, LONG, REFIID, void**);
+    static const auto function = resolve<Function>(loaded(L"oleacc.dll"), "CreateStdAccessibleObject");
+    return function ? function(window, objectId, iid, object) : E_NOTIMPL;
+}
+
+LRESULT lresultFromObject(REFIID iid, WPARAM wParam, IUnknown* object) {
+    using Function = LRESULT(WINAPI*)(REFIID, WPARAM, IUnknown*);
+    static const auto function = resolve<Function>(loaded(L"oleacc.dll"), "LresultFromObject");
+    return function ? function(iid, wParam, object) : E_NOTIMPL;
+}
+
+BSTR sysAllocStringLen(const wchar_t* text, UINT length) {
+    using Function = BSTR(WINAPI*)(const wchar_t*, UINT);
+    static const auto function = resolve<Function>(loaded(L"oleaut32.dll"), "SysAllocStringLen");
+    return function ? function(text, length) : nullptr;
+}
+
+}  // namespace kvs::win32

@@ -1,0 +1,26 @@
+// Windows functions the library calls without importing them: found at run
+// time, so that kvs_dlg.dll imports what it always has (the host team checks
+// the import table) and loads the accessibility libraries only when a screen
+// reader asks.
+#pragma once
+
+#include <windows.h>
+
+namespace kvs::win32 {
+
+// WindowFromPoint; null when it cannot be found.
+HWND windowFromPoint(POINT screenPoint);
+// The sibling before window in z-order (GetWindow GW_HWNDPREV), or null.
+HWND previousSibling(HWND window);
+// CreateCursor and DestroyCursor.
+HCURSOR createCursor(HINSTANCE instance, int hotX, int hotY, int width, int height, const void* andMask,
+                     const void* xorMask);
+void destroyCursor(HCURSOR cursor);
+
+// oleacc.dll and oleaut32.dll, loaded on first use and kept. Each returns
+// E_NOTIMPL (or null) when its library or function is missing.
+HRESULT createStdAccessibleObject(HWND window, LONG objectId, REFIID iid, void** object);
+LRESULT lresultFromObject(REFIID iid, WPARAM wParam, IUnknown* object);
+BSTR sysAllocStringLen(const wchar_t* text, UINT length);
+
+}  // namespace kvs::win32
