@@ -22,12 +22,13 @@ constexpr std::size_t kLongestKey = 64;
 
 // What changing a list costs, in microseconds, as measured on Wine's list
 // box at 100,000 items (docs/performance.md): adding an item at the end,
-// deleting the last, each item a delete or insert elsewhere moves along,
-// and each item emptying the list frees.
-constexpr double kAddCost = 1.8;
+// deleting the last, each item that moves along when an item is deleted or
+// inserted before it, and each item that emptying the list frees.
+constexpr double kAddCost = 0.9;
 constexpr double kDeleteCost = 0.4;
-constexpr double kMoveCost = 0.004;
-constexpr double kClearCost = 0.08;
+constexpr double kDeleteMoveCost = 0.0007;
+constexpr double kInsertMoveCost = 0.0023;
+constexpr double kClearCost = 0.05;
 
 char fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
@@ -46,10 +47,10 @@ double editCost(const std::vector<std::uint32_t>& was, const std::vector<std::ui
     while (i < was.size() || j < next.size()) {
         if (j == next.size() || (i < was.size() && was[i] < next[j])) {
             --size;
-            cost += kDeleteCost + kMoveCost * static_cast<double>(size - at);
+            cost += kDeleteCost + kDeleteMoveCost * static_cast<double>(size - at);
             ++i;
         } else if (i == was.size() || next[j] < was[i]) {
-            cost += kAddCost + kMoveCost * static_cast<double>(size - at);
+            cost += kAddCost + kInsertMoveCost * static_cast<double>(size - at);
             ++size, ++at, ++j;
         } else {
             ++at, ++i, ++j;
