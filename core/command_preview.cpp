@@ -1,8 +1,8 @@
 #include "core/command_preview.h"
 
 #include <algorithm>
-#include <cctype>
 
+#include "core/mnemonics.h"
 #include "resources/common_ids.h"
 
 namespace kvs {
@@ -19,19 +19,6 @@ constexpr std::string_view kLabel = "Command preview:";
 constexpr std::string_view kCopy = "Copy";
 constexpr int kLabelId = IDC_COMMAND_PREVIEW + 100;  // 1060: no template uses it
 
-// The letter after a single '&' of a label or button text, lower case.
-void collectMnemonic(std::string_view text, std::string& used) {
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != '&') continue;
-        if (text[i + 1] == '&') {
-            ++i;
-            continue;
-        }
-        used.push_back(static_cast<char>(std::tolower(static_cast<unsigned char>(text[i + 1]))));
-        return;
-    }
-}
-
 }  // namespace
 
 std::string previewText(const Composition& composition) {
@@ -42,21 +29,6 @@ std::string previewText(const Composition& composition) {
         text += line;
     }
     return text;
-}
-
-std::string withFreeMnemonic(const DialogView& view, std::string_view text, std::string_view taken) {
-    std::string used;
-    for (char c : taken) used.push_back(static_cast<char>(std::tolower(static_cast<unsigned char>(c))));
-    for (const ControlLayout& control : view.layout()) collectMnemonic(control.text, used);
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto c = static_cast<unsigned char>(text[i]);
-        if (!std::isalpha(c) || used.find(static_cast<char>(std::tolower(c))) != std::string::npos) continue;
-        std::string marked(text.substr(0, i));
-        marked += '&';
-        marked += text.substr(i);
-        return marked;
-    }
-    return std::string(text);
 }
 
 bool CommandPreview::owns(int controlId) {

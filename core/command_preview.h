@@ -17,11 +17,6 @@ namespace kvs {
 // The field's text: the lines joined by "\r\n", or the refusal's message.
 std::string previewText(const Composition& composition);
 
-// "Copy" -> "&Copy", or with the first of its letters no other label or
-// button of the dialog uses as its mnemonic, nor any of taken; the text as
-// it is when every letter is in use.
-std::string withFreeMnemonic(const DialogView& view, std::string_view text, std::string_view taken = {});
-
 class CommandPreview {
 public:
     // Grows the dialog and adds the label, the field and Copy under every

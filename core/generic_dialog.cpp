@@ -109,9 +109,10 @@ int GenericDialog::onInit(DialogView& view) {
         focus = behaviour_->init(context);
     }
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
-    installPreview(view);
     updateReorderButtons(view);
     nameTransferButtons(view);
+    filters_.install(view, sourceCatalogue_, secondCatalogue_);
+    installPreview(view);
     if (focus) view.setFocus(focus);
     return focus;
 }
@@ -122,8 +123,16 @@ void GenericDialog::onCommand(DialogView& view, int controlId, int notifyCode) {
         if (controlId == IDC_COPY_COMMANDS && notifyCode == kButtonClicked) preview_.copy(view);
         return;
     }
+    if (filters_.owns(controlId)) {
+        // Filtering took selected names out of view: the list's selection changed.
+        const int list = filters_.command(view, controlId, notifyCode);
+        if (!list) return;
+        controlId = list, notifyCode = kListSelChange;
+    }
     handleCommand(view, controlId, notifyCode);
-    if (!closing_) refreshPreview(view);
+    if (closing_) return;
+    filters_.follow(view);
+    refreshPreview(view);
 }
 
 // A dialog that composes a command shows it from the start; the dialog grows
@@ -213,6 +222,7 @@ std::uint32_t GenericDialog::helpContext() const {
 
 void GenericDialog::resetAll(DialogView& view) {
     for (const Target& target : targets_) view.listClear(target.listId);
+    filters_.clear(view);
     if (behaviour_) {
         DialogContext context{view, *this};
         behaviour_->reset(context);

@@ -12,6 +12,7 @@
 #include "core/descriptor.h"
 #include "core/dialog_behaviour.h"
 #include "core/seam.h"
+#include "core/source_filter.h"
 #include "core/variable_list.h"
 #include "resources/common_ids.h"
 
@@ -75,6 +76,7 @@ private:
     VariableCatalogue sourceCatalogue_;
     VariableCatalogue secondCatalogue_;
     CommandPreview preview_;
+    SourceFilters filters_;
     bool closing_ = false;
 };
 

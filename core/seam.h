@@ -128,6 +128,19 @@ public:
         }
         return result;
     }
+    // How often list id's items have changed through this view: every
+    // change (an item added, inserted or deleted, the list emptied) and the
+    // emptyings among them. Whoever keeps a copy of a list tells from them
+    // that someone else has changed it, and whether it was refilled.
+    struct ListChanges {
+        std::uint64_t all = 0;
+        std::uint64_t clears = 0;
+        bool operator==(const ListChanges&) const = default;
+    };
+    ListChanges listChanges(int id) const {
+        const auto found = listChanges_.find(id);
+        return found == listChanges_.end() ? ListChanges{} : found->second;
+    }
     // Every item's text, in order. The view keeps the texts: they stay valid
     // until that list changes or is read again, so a list of 100,000 names
     // is not copied on its way to the selection array and the command.
@@ -183,7 +196,17 @@ public:
     virtual void end(int result) = 0;
 
 protected:
+    // What a view calls when it has changed the items of list id.
+    void noteListChange(int id, bool cleared = false) {
+        ListChanges& changes = listChanges_[id];
+        ++changes.all;
+        if (cleared) ++changes.clears;
+    }
+
     mutable std::unordered_map<int, std::vector<std::string>> textsRead_;  // by list id, for listTexts
+
+private:
+    std::unordered_map<int, ListChanges> listChanges_;
 };
 
 // Keys a list box hands the dialog rather than handling them itself.

@@ -340,6 +340,7 @@ int HeadlessDialog::listAdd(int id, std::string_view text, ListInsert how) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr) return kListError;
     if (c->items.size() >= listCapacity_) return kListNoSpace;
+    noteListChange(id);
     return insertEntry(*c, text, how == ListInsert::Sorted && c->def.listSorted());
 }
 
@@ -354,6 +355,7 @@ HeadlessDialog::ListAddResult HeadlessDialog::listAddAll(int id, std::size_t cou
     const std::size_t room = listCapacity_ > before ? listCapacity_ - before : 0;
     result.added = std::min(count, room);
     result.noSpace = result.added < count;
+    if (result.added > 0) noteListChange(id);
     c->items.reserve(before + result.added);
     for (std::size_t i = 0; i < result.added; ++i) c->items.push_back(ListEntry{cText(textAt(i)), false});
     const auto less = [](const ListEntry& a, const ListEntry& b) { return compareListText(a.text, b.text) < 0; };
@@ -373,6 +375,7 @@ int HeadlessDialog::listInsertAt(int id, int index, std::string_view text) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || index < 0 || static_cast<std::size_t>(index) > c->items.size()) return kListError;
     if (c->items.size() >= listCapacity_) return kListNoSpace;
+    noteListChange(id);
     c->items.insert(c->items.begin() + index, ListEntry{cText(text), false});
     if (c->chosen >= index) ++c->chosen;
     return index;
@@ -381,6 +384,7 @@ int HeadlessDialog::listInsertAt(int id, int index, std::string_view text) {
 void HeadlessDialog::listDelete(int id, int index) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr || !validIndex(c->items, index)) return;
+    noteListChange(id);
     c->items.erase(c->items.begin() + index);
     if (index == c->chosen) c->chosen = -1;
     else if (index < c->chosen) --c->chosen;
@@ -389,6 +393,7 @@ void HeadlessDialog::listDelete(int id, int index) {
 void HeadlessDialog::listClear(int id) {
     ControlState* c = reachKind(id, ControlKind::ListBox);
     if (c == nullptr) return;
+    noteListChange(id, true);
     c->items.clear();
     c->chosen = -1;
 }

@@ -180,6 +180,7 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
     ChangingControls changing;
     const LRESULT result = insertItem(list, item, how);
     if (longest) *longest = std::max(*longest, item.size());
+    if (result >= 0) noteListChange(id);
     if (result == LB_ERRSPACE) return kListNoSpace;
     if (result < 0) return kListError;
     return static_cast<int>(result);
@@ -193,6 +194,7 @@ int Win32DialogView::listInsertAt(int id, int index, std::string_view text) {
     if (std::size_t* longest = longestOf(list, id)) *longest = std::max(*longest, item.size());
     ChangingControls changing;
     const LRESULT result = send(list, LB_INSERTSTRING, static_cast<WPARAM>(index), textArgument(item));
+    if (result >= 0) noteListChange(id);
     if (result == LB_ERRSPACE) return kListNoSpace;
     return result < 0 ? kListError : static_cast<int>(result);
 }
@@ -203,6 +205,7 @@ void Win32DialogView::listDelete(int id, int index) {
     if (!list || !validIndex(list, LB_GETCOUNT, index)) return;
     ChangingControls changing;
     send(list, LB_DELETESTRING, static_cast<WPARAM>(index));
+    noteListChange(id);
 }
 
 void Win32DialogView::listClear(int id) {
@@ -211,6 +214,7 @@ void Win32DialogView::listClear(int id) {
     if (!list) return;
     ChangingControls changing;
     send(list, LB_RESETCONTENT);
+    noteListChange(id, true);
     longest_[id] = 0;
 }
 
@@ -301,6 +305,7 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, std::size_t c
         ++result.added;
     }
     if (longest) *longest = std::max(*longest, longestAdded);
+    if (result.added > 0) noteListChange(id);
     return result;
 }
 

@@ -1,7 +1,9 @@
 // Opening a variable dialog on a file of N variables (P1) and its OK with N
 // variables chosen (P2), against the floor of the same work done the fastest
 // documented way on a plain list box of a plain dialog: filled with redraw
-// off and its storage reserved, read back item by item.
+// off and its storage reserved, read back item by item. Then keystrokes in
+// the search box under Sort's source list, each from the key to the list
+// shown again.
 #include "standin/win/bench.h"
 
 #include <windows.h>
@@ -204,6 +206,109 @@ std::pair<double, double> timeFloor(const std::vector<std::string>& names, HWND 
     return {opened, floor.acted};
 }
 
+// ---- the search box ----------------------------------------------------------
+
+constexpr int kSearchBox = 962;  // under Sort's source list
+
+// Names as a survey file has them: twenty stems numbered in turn (AGE1,
+// INCOME1, ..., Q1, AGE2, ...); "e" is in sixteen stems of the twenty.
+std::vector<std::string> surveyNames(int count) {
+    static const char* const stems[] = {"AGE",  "INCOME", "REGION", "SCORE", "WEIGHT", "HEIGHT", "ITEM",
+                                        "RESP", "TEMP",   "SALES",  "PRICE", "YEAR",   "MONTH",  "DOSE",
+                                        "GROUP", "SEX",   "BMI",    "TIME",  "RATE",   "Q"};
+    constexpr int kStems = static_cast<int>(sizeof stems / sizeof stems[0]);
+    std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) names.push_back(std::string(stems[i % kStems]).append(std::to_string(i / kStems + 1)));
+    return names;
+}
+
+// What a user types, a keystroke a step: a character (Backspace among
+// them), or "" for selecting the whole text and deleting it.
+const std::vector<std::vector<std::string>>& keystrokes() {
+    static const std::vector<std::vector<std::string>> sequences = {
+        {"e", "i", "g", "h", "t", "4", "2", "1", "\b", ""},   // nearly every name, then WEIGHT and HEIGHT, then a few
+        {"s", "c", "o", "r", "e", "1", "2", "\b", "\b", ""},  // a fifth of the names, then SCORE
+    };
+    return sequences;
+}
+
+struct Step {
+    std::string typed;  // the box's text after the keystroke
+    int shown = 0;      // the names the list shows then
+    double ms = 1e300;  // the best time of the keystroke
+};
+
+struct SearchTiming {
+    double focus = 1e300;  // clicking into the box: the copy of the list
+    std::vector<Step> steps;
+};
+
+SearchTiming* searchTiming = nullptr;
+
+// A keystroke as the keyboard gives it: WM_CHAR to the edit, which changes
+// its text and tells the dialog (EN_CHANGE) before the call returns.
+double keystroke(HWND edit, const std::string& key) {
+    const double start = now();
+    if (key.empty()) {
+        SendMessageA(edit, EM_SETSEL, 0, -1);
+        SendMessageA(edit, WM_CHAR, VK_BACK, 0);
+    } else {
+        SendMessageA(edit, WM_CHAR, static_cast<WPARAM>(static_cast<unsigned char>(key[0])), 0);
+    }
+    return now() - start;
+}
+
+void typeIntoTheBox(Run& one) {
+    const HWND edit = GetDlgItem(one.dialog, kSearchBox);
+    const HWND list = GetDlgItem(one.dialog, kSourceList);
+    SearchTiming& timing = *searchTiming;
+    const double start = now();
+    SetFocus(edit);
+    timing.focus = std::min(timing.focus, now() - start);
+    std::size_t step = 0;
+    for (const std::vector<std::string>& sequence : keystrokes()) {
+        for (const std::string& key : sequence) {
+            const double ms = keystroke(edit, key);
+            if (timing.steps.size() <= step) timing.steps.emplace_back();
+            Step& s = timing.steps[step++];
+            char text[64] = {};
+            GetWindowTextA(edit, text, static_cast<int>(sizeof text));
+            s.typed = text;
+            s.shown = static_cast<int>(SendMessageA(list, LB_GETCOUNT, 0, 0));
+            s.ms = std::min(s.ms, ms);
+        }
+    }
+    press(one.dialog, IDCANCEL);
+}
+
+SearchTiming timeSearchBox(const Library& library, HWND owner) {
+    SearchTiming timing;
+    searchTiming = &timing;
+    for (int i = 0; i < kRuns; ++i) {
+        Run typing{library.module(), typeIntoTheBox};
+        timed(typing, [&] { library.startDialog(kDialog, owner, "C:\\KORVAN\\KORVAN.HLP"); });
+    }
+    searchTiming = nullptr;
+    library.reinitDialogs(1);
+    return timing;
+}
+
+void reportSearchBox(std::FILE* out, int count, const SearchTiming& timing) {
+    std::fprintf(out, "search box of Sort, N = %d: clicking into it %.1f ms, then\n", count, timing.focus);
+    std::fprintf(out, "  %-10s %8s %10s\n", "text", "shown", "ms");
+    for (const Step& step : timing.steps)
+        std::fprintf(out, "  %-10s %8d %10.1f\n", ("\"" + step.typed + "\"").c_str(), step.shown, step.ms);
+}
+
+void useNames(const std::vector<std::string>& names) {
+    std::vector<const char*> pointers;
+    pointers.reserve(names.size());
+    for (const std::string& name : names) pointers.push_back(name.c_str());
+    KvsStandinSetVariables(static_cast<int>(names.size()), pointers.data());
+    KernelState::instance().setVariables(names);
+}
+
 }  // namespace
 
 int runBenchmark(const std::string& outPath, const std::vector<int>& counts) {
@@ -235,6 +340,11 @@ int runBenchmark(const std::string& outPath, const std::vector<int>& counts) {
         }
         std::fprintf(out, "%-4s %8d %12.1f %10.1f %7.2f %12.2f\n", "P1", count, p1, f1, p1 / f1, 1000.0 * p1 / count);
         std::fprintf(out, "%-4s %8d %12.1f %10.1f %7.2f %12.2f\n", "P2", count, p2, f2, p2 / f2, 1000.0 * p2 / count);
+        std::fflush(out);
+    }
+    for (int count : counts) {
+        useNames(surveyNames(count));
+        reportSearchBox(out, count, timeSearchBox(library, owner));
         std::fflush(out);
     }
     // Measured last, when the classes and the font are warm, as in the rows.

@@ -1,5 +1,6 @@
 // KORVAN.exe --bench OUT.txt: times the real library against the floor of
-// a plain list box in the same process (see tools/wine/bench.sh).
+// a plain list box in the same process, and keystrokes in a search box
+// (see tools/wine/bench.sh).
 #pragma once
 
 #include <string>

@@ -10,6 +10,8 @@
 
 #include "core/command_preview.h"
 #include "core/dispatch_table.h"
+#include "core/source_filter.h"
+#include "core/variable_list.h"
 #include "families/library.h"
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
@@ -59,8 +61,9 @@ char mnemonicOf(const std::string& text) {
 }
 
 // Every label and button of a written dialog, with the controls the dialog
-// adds when it opens (the command preview), carries a mnemonic of its own,
-// so a user reaches each control from the keyboard. OK and Cancel answer
+// adds when it opens (the command preview and the search boxes under its
+// source lists), carries a mnemonic of its own, so a user reaches each
+// control from the keyboard. OK and Cancel answer
 // Enter and Escape, group boxes take no focus, a text without a letter or a
 // digit ("=") has nothing to mark, and the catalogue's "Add" 153 comes third
 // after two other "Add" buttons and is reached by Tab or a double click.
@@ -74,6 +77,9 @@ TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
         kvs::headless::HeadlessDialog dialog(*dialogTemplate);
         kvs::CommandPreview preview;
         EXPECT_TRUE(preview.install(dialog)) << row.templateName;
+        kvs::VariableCatalogue names;
+        kvs::SourceFilters filters;
+        filters.install(dialog, names, names);
         std::string taken;
         for (const auto& state : dialog.controls()) {
             const auto& control = state.def;

@@ -96,6 +96,31 @@ inline void multiSelection(DialogView& view, Failures& failures) {
     KVS_EXPECT(failures, view.listSelection(kMultiList).empty());
 }
 
+// Every change of a list's items counts, an emptying also apart; a change
+// refused, a selection and another list's changes do not.
+inline void listChangeCounts(DialogView& view, Failures& failures) {
+    view.listClear(kMultiList);
+    const DialogView::ListChanges cleared = view.listChanges(kMultiList);
+    const DialogView::ListChanges other = view.listChanges(kSortedList);
+    view.listAdd(kMultiList, "a", ListInsert::Append);
+    const DialogView::ListChanges added = view.listChanges(kMultiList);
+    KVS_EXPECT(failures, added.all > cleared.all && added.clears == cleared.clears);
+    view.listDelete(kMultiList, 5);
+    view.listSelect(kMultiList, 0, true);
+    KVS_EXPECT(failures, view.listChanges(kMultiList) == added);
+    view.listInsertAt(kMultiList, 0, "b");
+    const DialogView::ListChanges inserted = view.listChanges(kMultiList);
+    KVS_EXPECT(failures, inserted.all > added.all);
+    view.listAddAll(kMultiList, 2, [](std::size_t i) { return i == 0 ? "c" : "d"; }, ListInsert::Append);
+    const DialogView::ListChanges filled = view.listChanges(kMultiList);
+    KVS_EXPECT(failures, filled.all > inserted.all);
+    view.listDelete(kMultiList, 0);
+    KVS_EXPECT(failures, view.listChanges(kMultiList).all > filled.all);
+    view.listClear(kMultiList);
+    KVS_EXPECT(failures, view.listChanges(kMultiList).clears == cleared.clears + 1);
+    KVS_EXPECT(failures, view.listChanges(kSortedList) == other);
+}
+
 inline void comboBoxes(DialogView& view, Failures& failures) {
     view.comboAdd(kEditCombo, "beta");
     view.comboAdd(kEditCombo, "alpha");
@@ -199,6 +224,7 @@ inline Failures runAll(DialogView& view, const std::function<int()>& focused) {
     listInsertion(view, failures);
     singleSelection(view, failures);
     multiSelection(view, failures);
+    listChangeCounts(view, failures);
     comboBoxes(view, failures);
     textAndButtons(view, failures);
     editSelection(view, failures);

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Times the real DLL under Wine: opening a variable dialog on a file of N
 # variables (P1) and its OK with N variables chosen (P2), each against the
-# floor of a plain list box in the same process, for N = 1,000, 10,000 and
-# 100,000. Prints the table (best of three runs each).
+# floor of a plain list box in the same process, and keystrokes in the
+# search box under its source list, for N = 1,000, 10,000 and 100,000.
+# Prints the tables (best of three runs each).
 #
 #   tools/wine/bench.sh [N...]   (after scripts/build.sh x86_64)
 set -euo pipefail
