@@ -75,11 +75,12 @@ TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
         const kvs::headless::DialogTemplate* dialogTemplate = resources().dialog(row.templateName);
         if (!dialogTemplate) continue;
         kvs::headless::HeadlessDialog dialog(*dialogTemplate);
-        kvs::CommandPreview preview;
-        EXPECT_TRUE(preview.install(dialog)) << row.templateName;
+        // In the order the dialog adds them when it opens.
         kvs::VariableCatalogue names;
         kvs::SourceFilters filters;
         filters.install(dialog, names, names);
+        kvs::CommandPreview preview;
+        EXPECT_TRUE(preview.install(dialog)) << row.templateName;
         std::string taken;
         for (const auto& state : dialog.controls()) {
             const auto& control = state.def;
