@@ -264,6 +264,10 @@ int Tour::run() {
     visitWorked("worked-0221-Regression", 221,
                 {[this] { backend_.selectItems(IDC_SOURCE, {3}); }, [this] { backend_.click(IDC_ADD_DEPENDENT); },
                  [this] { backend_.selectItems(IDC_SOURCE, {0, 4, 6}); }, [this] { backend_.click(IDC_ADD1); }});
+    // A source list filtered by its search box.
+    visitWorked("worked-0289-Logit-filtered", 289,
+                {[this] { backend_.typeText(IDC_SOURCE_FILTER, "ht"); },
+                 [this] { backend_.selectItems(IDC_SOURCE, {0}); }});
     // The dialogs the host opens through exports of their own.
     const scenario::LibraryExports& exports = library_.exports();
     if (exports.doSaveDataOptionsDlg)
