@@ -17,6 +17,7 @@
 #include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
 #include "resources/list_transfer.h"
+#include "tests/unit/library_resources.h"
 
 namespace {
 
@@ -92,14 +93,7 @@ TEST(TransferNames, EveryUsedRowNamesBothButtonsFromItsTargetsLabel) {
     EXPECT_EQ(names[1], (std::pair<int, std::string>{7, "Remove from X - variable"}));
 }
 
-const kvs::headless::ResourceSet& resources() {
-    static const kvs::headless::ResourceSet set = [] {
-        kvs::headless::ResourceSet s;
-        s.load(kvs::headless::embeddedResources());
-        return s;
-    }();
-    return set;
-}
+const kvs::headless::ResourceSet& resources() { return kvs::testing::libraryResources(); }
 
 bool overlap(const kvs::headless::ControlTemplate& a, const kvs::headless::ControlTemplate& b) {
     // A combo box's height is its drop-down's; closed it is one line.

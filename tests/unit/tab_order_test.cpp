@@ -9,20 +9,14 @@
 
 #include "headless/embedded_resources.h"
 #include "headless/rc_template.h"
+#include "tests/unit/library_resources.h"
 
 namespace {
 
 using kvs::headless::ControlKind;
 using kvs::headless::ControlTemplate;
 
-const kvs::headless::ResourceSet& resources() {
-    static const kvs::headless::ResourceSet set = [] {
-        kvs::headless::ResourceSet s;
-        s.load(kvs::headless::embeddedResources());
-        return s;
-    }();
-    return set;
-}
+const kvs::headless::ResourceSet& resources() { return kvs::testing::libraryResources(); }
 
 // Where a control shows on the dialog. A drop-down combo box's template
 // height includes its dropped list; closed it is one line high.

@@ -16,17 +16,11 @@
 #include "headless/embedded_resources.h"
 #include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
+#include "tests/unit/library_resources.h"
 
 namespace {
 
-const kvs::headless::ResourceSet& resources() {
-    static const kvs::headless::ResourceSet set = [] {
-        kvs::headless::ResourceSet s;
-        s.load(kvs::headless::embeddedResources());
-        return s;
-    }();
-    return set;
-}
+const kvs::headless::ResourceSet& resources() { return kvs::testing::libraryResources(); }
 
 TEST(TemplateRows, EveryWrittenDialogHasItsTemplateAndCaption) {
     kvs::installLibraryFamilies();
