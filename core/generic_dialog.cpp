@@ -112,6 +112,8 @@ int GenericDialog::onInit(DialogView& view) {
     installPreview(view);
     updateReorderButtons(view);
     nameTransferButtons(view);
+    // Last, so the layout it scales holds every control added above.
+    layout_.install(view, commandId_);
     if (focus) view.setFocus(focus);
     return focus;
 }
@@ -219,6 +221,15 @@ void GenericDialog::resetAll(DialogView& view) {
     }
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
     updateReorderButtons(view);
+}
+
+// A size that cannot be laid out for want of memory leaves the controls
+// where they are; the dialog stays usable.
+void GenericDialog::onResize(DialogView& view, int width, int height) {
+    try {
+        layout_.resize(view, width, height);
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 void GenericDialog::onSysCommand(DialogView&, int code) { answerHelpCommand(code); }
