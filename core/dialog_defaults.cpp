@@ -3,6 +3,7 @@
 #include "core/descriptor.h"
 #include "core/dialog_behaviour.h"
 #include "core/dispatch_table.h"
+#include "core/resizable_layout.h"
 
 namespace kvs {
 
@@ -58,6 +59,7 @@ DefaultsTable& defaults() {
 void rebuildDialogDefaults() {
     DefaultsTable t;
     addDescriptorOptionDefaults(t);
+    t.routine(forgetDialogSizes);  // the sizes users gave the dialogs
     for (const FamilyTable& family : installedFamilies()) {
         if (family.addDefaults) family.addDefaults(t);
         for (const DispatchRow& row : family.rows)

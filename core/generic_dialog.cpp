@@ -113,6 +113,8 @@ int GenericDialog::onInit(DialogView& view) {
     nameTransferButtons(view);
     filters_.install(view, sourceCatalogue_, secondCatalogue_);
     installPreview(view);
+    // Last, so the layout it scales holds every control added above.
+    layout_.install(view, commandId_);
     if (focus) view.setFocus(focus);
     return focus;
 }
@@ -229,6 +231,15 @@ void GenericDialog::resetAll(DialogView& view) {
     }
     updateTransferButtons(view, [this](int id) { return targetCapacity(id); });
     updateReorderButtons(view);
+}
+
+// A size that cannot be laid out for want of memory leaves the controls
+// where they are; the dialog stays usable.
+void GenericDialog::onResize(DialogView& view, int width, int height) {
+    try {
+        layout_.resize(view, width, height);
+    } catch (const std::bad_alloc&) {
+    }
 }
 
 void GenericDialog::onSysCommand(DialogView&, int code) { answerHelpCommand(code); }

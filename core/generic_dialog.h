@@ -11,6 +11,7 @@
 #include "core/command_preview.h"
 #include "core/descriptor.h"
 #include "core/dialog_behaviour.h"
+#include "core/resizable_layout.h"
 #include "core/seam.h"
 #include "core/source_filter.h"
 #include "core/variable_list.h"
@@ -30,6 +31,9 @@ public:
     bool canDrop(DialogView& view, int fromList, int toList) override;
     void onDrop(DialogView& view, int fromList, int toList, int index) override;
     bool onListKey(DialogView& view, int listId, ListKey key) override;
+    // The user resized the dialog: lists grow, the button column keeps to
+    // the right (core/dialog_resize.h).
+    void onResize(DialogView& view, int width, int height) override;
 
     std::uint16_t commandId() const { return commandId_; }
     // The names behind source list 4 or 5, for behaviours that refill them.
@@ -77,6 +81,7 @@ private:
     VariableCatalogue secondCatalogue_;
     CommandPreview preview_;
     SourceFilters filters_;
+    ResizableLayout layout_;
     bool closing_ = false;
 };
 

@@ -70,6 +70,7 @@ struct ControlLayout {
     ControlType type = ControlType::Other;
     std::string text;
     DialogRect rect;
+    bool multiLine = false;  // an edit control of several lines
 };
 
 // The controls of one open dialog, addressed by control id. Operations on an
@@ -178,6 +179,15 @@ public:
     virtual void moveControl(int id, const DialogRect& rect) { (void)id, (void)rect; }
     virtual void growClient(int width, int height) { (void)width, (void)height; }
     virtual bool addControl(const AddedControl& control) { (void)control; return false; }
+    // Puts the controls, in the order layout() gives them, at these rects
+    // (labels share an id, so they are addressed by place); a control
+    // whose size does not change is only moved (a combo box keeps its
+    // drop-down height).
+    virtual void arrange(const std::vector<DialogRect>& rects) { (void)rects; }
+    // Lets the user resize the dialog by its frame, keeping the client area
+    // as it is and never smaller than minWidth x minHeight dialog units; the
+    // handler's onResize then follows each change of size.
+    virtual void makeResizable(int minWidth, int minHeight) { (void)minWidth, (void)minHeight; }
     // The text of the static label just before control id in the template
     // (the label a user reads for a list, edit or combo box); empty if none.
     virtual std::string labelOf(int id) const {
@@ -245,6 +255,9 @@ public:
         (void)view, (void)listId, (void)key;
         return false;
     }
+    // The client area is now width x height dialog units (the user dragged
+    // the frame of a dialog made resizable).
+    virtual void onResize(DialogView& view, int width, int height) { (void)view, (void)width, (void)height; }
     // The user closed the window (WM_CLOSE); a modal dialog takes it as Cancel.
     virtual void onClose(DialogView& view) { onCommand(view, 2 /* IDCANCEL */, kButtonClicked); }
 };

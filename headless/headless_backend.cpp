@@ -281,6 +281,18 @@ void HeadlessBackend::pressKeyIn(int id, scenario::Key key) {
     window->handler->onListKey(*window->dialog, id, key == scenario::Key::Delete ? ListKey::Delete : ListKey::SelectAll);
 }
 
+// As the frame dragged by the user: the window keeps to its smallest size,
+// then the dialog hears the client size it got.
+bool HeadlessBackend::resizeDialog(int width, int height) {
+    DialogWindow* window = dialog();
+    if (!window || !window->dialog->resizable()) return false;
+    HeadlessDialog& d = *window->dialog;
+    d.resizeClient(width, height);
+    const DialogRect client = d.clientRect();
+    window->handler->onResize(d, client.width, client.height);
+    return true;
+}
+
 int HeadlessBackend::focusedControl() {
     DialogWindow* window = dialog();
     return window ? window->dialog->focus() : 0;

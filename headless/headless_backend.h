@@ -52,6 +52,7 @@ public:
     std::optional<long> userWord() override;
     void dragSelection(int from, int to, int at) override;
     void pressKeyIn(int id, scenario::Key key) override;
+    bool resizeDialog(int width, int height) override;
     int focusedControl() override;
     std::string accessibleName(int id) override;
     void pressTab() override;

@@ -115,6 +115,7 @@ std::vector<ControlLayout> HeadlessDialog::layout() const {
     all.reserve(controls_.size());
     for (const ControlState& c : controls_) {
         ControlLayout control{c.def.id, controlType(c.def.id), {}, {c.def.x, c.def.y, c.def.w, c.def.h}};
+        control.multiLine = c.def.kind == ControlKind::Edit && (c.def.style & 0x4u) != 0;  // ES_MULTILINE
         if (c.def.kind == ControlKind::Static || c.def.kind == ControlKind::Button) {
             control.type = c.def.kind == ControlKind::Button ? ControlType::Button : ControlType::Other;
             control.text = c.text;
@@ -138,6 +139,24 @@ void HeadlessDialog::moveControl(int id, const DialogRect& rect) {
 void HeadlessDialog::growClient(int width, int height) {
     width_ += width;
     height_ += height;
+}
+
+void HeadlessDialog::arrange(const std::vector<DialogRect>& rects) {
+    for (std::size_t i = 0; i < rects.size() && i < controls_.size(); ++i) {
+        ControlTemplate& def = controls_[i].def;
+        def.x = rects[i].x, def.y = rects[i].y, def.w = rects[i].width, def.h = rects[i].height;
+    }
+}
+
+void HeadlessDialog::makeResizable(int minWidth, int minHeight) {
+    resizable_ = true;
+    minWidth_ = minWidth;
+    minHeight_ = minHeight;
+}
+
+void HeadlessDialog::resizeClient(int width, int height) {
+    width_ = std::max(width, minWidth_);
+    height_ = std::max(height, minHeight_);
 }
 
 // Built as the resource compiler builds the same statements: a LTEXT, a

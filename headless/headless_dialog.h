@@ -89,6 +89,8 @@ public:
     void moveControl(int id, const DialogRect& rect) override;
     void growClient(int width, int height) override;
     bool addControl(const AddedControl& control) override;
+    void arrange(const std::vector<DialogRect>& rects) override;
+    void makeResizable(int minWidth, int minHeight) override;
     std::string labelOf(int id) const override;
     void setAccessibleName(int id, std::string_view name) override;
     void centre() override { centred_ = true; }
@@ -127,6 +129,13 @@ public:
     // accessibility proxy gives it.
     std::string accessibleName(int id) const;
 
+    // Whether the logic made the dialog resizable, and its smallest client
+    // area then; resizeClient is the user dragging the frame (the caller
+    // tells the handler), kept to that smallest size as Windows keeps it.
+    bool resizable() const { return resizable_; }
+    DialogRect minimumClient() const { return {0, 0, minWidth_, minHeight_}; }
+    void resizeClient(int width, int height);
+
     int focus() const { return focus_; }  // 0: none
     bool centred() const { return centred_; }
     bool ended() const { return ended_; }
@@ -145,6 +154,8 @@ private:
     std::string caption_;
     std::vector<ControlState> controls_;
     int width_ = 0, height_ = 0;  // the client area in dialog units
+    bool resizable_ = false;
+    int minWidth_ = 0, minHeight_ = 0;
     std::size_t listCapacity_ = kUnlimited;
     int focus_ = 0;
     bool centred_ = false;

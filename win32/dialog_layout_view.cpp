@@ -62,7 +62,10 @@ std::vector<ControlLayout> Win32DialogView::layout() const {
         char name[32] = {};
         GetClassNameA(control, name, static_cast<int>(sizeof name));
         if (lstrcmpiA(name, "Button") == 0) entry.type = ControlType::Button;
-        else if (lstrcmpiA(name, "Edit") == 0) entry.type = ControlType::Edit;
+        else if (lstrcmpiA(name, "Edit") == 0) {
+            entry.type = ControlType::Edit;
+            entry.multiLine = (GetWindowLongA(control, GWL_STYLE) & ES_MULTILINE) != 0;
+        }
         else if (lstrcmpiA(name, "ListBox") == 0) entry.type = ControlType::ListBox;
         else if (lstrcmpiA(name, "ComboBox") == 0) entry.type = ControlType::ComboBox;
         if (entry.type == ControlType::Button || entry.type == ControlType::Other) {
@@ -89,6 +92,44 @@ void Win32DialogView::moveControl(int id, const DialogRect& rect) {
     const RECT pixels = toPixels(dialog_, rect);
     SetWindowPos(control, nullptr, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
                  SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// One deferred move for all the controls, so they are redrawn once.
+void Win32DialogView::arrange(const std::vector<DialogRect>& rects) {
+    std::vector<std::pair<HWND, DialogRect>> moves;
+    HWND control = GetWindow(dialog_, GW_CHILD);
+    for (std::size_t i = 0; control && i < rects.size(); ++i, control = GetWindow(control, GW_HWNDNEXT))
+        moves.emplace_back(control, rects[i]);
+    HDWP batch = BeginDeferWindowPos(static_cast<int>(moves.size()));
+    for (const auto& [window, rect] : moves) {
+        const DialogRect now = rectOf(window);
+        UINT flags = SWP_NOZORDER | SWP_NOACTIVATE;
+        if (now.width == rect.width && now.height == rect.height) flags |= SWP_NOSIZE;
+        const RECT pixels = toPixels(dialog_, rect);
+        const int width = pixels.right - pixels.left, height = pixels.bottom - pixels.top;
+        if (batch) batch = DeferWindowPos(batch, window, nullptr, pixels.left, pixels.top, width, height, flags);
+        else SetWindowPos(window, nullptr, pixels.left, pixels.top, width, height, flags);
+    }
+    if (batch) EndDeferWindowPos(batch);
+    // Group boxes and labels leave their old pictures behind otherwise.
+    RedrawWindow(dialog_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// A thick frame around the same client area, and the window the smallest
+// client area needs inside that frame.
+void Win32DialogView::makeResizable(int minWidth, int minHeight) {
+    RECT client{};
+    if (!GetClientRect(dialog_, &client)) return;
+    const auto style = static_cast<DWORD>(GetWindowLongPtrA(dialog_, GWL_STYLE) | WS_THICKFRAME);
+    const auto exStyle = static_cast<DWORD>(GetWindowLongPtrA(dialog_, GWL_EXSTYLE));
+    SetWindowLongPtrA(dialog_, GWL_STYLE, static_cast<LONG_PTR>(style));
+    RECT smallest = toPixels(dialog_, {0, 0, minWidth, minHeight});
+    AdjustWindowRectEx(&smallest, style, FALSE, exStyle);
+    minTrack_ = {smallest.right - smallest.left, smallest.bottom - smallest.top};
+    RECT frame = client;
+    AdjustWindowRectEx(&frame, style, FALSE, exStyle);
+    SetWindowPos(dialog_, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
 void Win32DialogView::growClient(int width, int height) {

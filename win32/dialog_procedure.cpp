@@ -2,6 +2,7 @@
 
 #include "resources/common_ids.h"
 #include "win32/colour_grid_window.h"
+#include "win32/dialog_sizing.h"
 #include "win32/list_drag.h"
 #include "win32/module_instance.h"
 #include "win32/owner_drawn_button.h"
@@ -61,8 +62,13 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         return lParam && measurePictureItem(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
     DialogSession* session = sessionOf(dialog);
     if (!session || !session->view) return FALSE;
-    DialogView& view = *session->view;
+    Win32DialogView& view = *session->view;
     switch (message) {
+    case WM_GETMINMAXINFO:
+        return answerMinMaxInfo(view, lParam) ? TRUE : FALSE;
+    case WM_SIZE:
+        forwardSize(view, *session->handler, wParam);
+        return FALSE;
     case WM_COMMAND:
         if (lParam != 0 && viewIsChangingControls()) return TRUE;
         session->handler->onCommand(view, LOWORD(wParam), HIWORD(wParam));

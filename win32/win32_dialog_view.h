@@ -60,6 +60,11 @@ public:
     void moveControl(int id, const DialogRect& rect) override;
     void growClient(int width, int height) override;
     bool addControl(const AddedControl& control) override;
+    void arrange(const std::vector<DialogRect>& rects) override;
+    void makeResizable(int minWidth, int minHeight) override;
+    // The smallest window size in pixels the user may drag the dialog to;
+    // 0 x 0 until makeResizable.
+    SIZE minimumTrackSize() const { return minTrack_; }
 
     void setCaption(std::string_view text) override;
     void centre() override;
@@ -70,6 +75,7 @@ private:
     DialogRect rectOf(HWND control) const;
 
     HWND dialog_;
+    SIZE minTrack_{0, 0};
     mutable std::unordered_map<int, HWND> controls_;
     // textsRead_ holds a list's texts as read last until the view changes
     // that list: the library's lists change only through the view, and OK

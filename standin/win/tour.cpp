@@ -53,6 +53,8 @@ private:
     // Opens a dialog and takes its picture after the steps, one per tick:
     // the dialog as a user has worked in it.
     void visitWorked(const std::string& shotName, std::uint16_t dialog, std::vector<std::function<void()>> steps);
+    // Drags the dialog's frame to half as large again as its client area.
+    void growByHalf(HWND dialog);
     void pictureOfUnlisted();
     void pictureOfPictures();
     void showProgress();
@@ -137,6 +139,13 @@ void Tour::visitWorked(const std::string& shotName, std::uint16_t dialog, std::v
                std::to_string(library_.startDialog(dialog, owner_, kSampleHelpFile));
     });
     steps_.clear();
+}
+
+void Tour::growByHalf(HWND dialog) {
+    RECT client{}, scale{0, 0, 4, 8};
+    if (!dialog || !GetClientRect(dialog, &client) || !MapDialogRect(dialog, &scale) || !scale.right || !scale.bottom)
+        return;
+    backend_.resizeDialog(MulDiv(client.right, 4 * 3, scale.right * 2), MulDiv(client.bottom, 8 * 3, scale.bottom * 2));
 }
 
 INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
@@ -268,6 +277,11 @@ int Tour::run() {
     visitWorked("worked-0289-Logit-filtered", 289,
                 {[this] { backend_.typeText(IDC_SOURCE_FILTER, "ht"); },
                  [this] { backend_.selectItems(IDC_SOURCE, {0}); }});
+    // The same, its frame dragged to half as large again.
+    visitWorked("worked-0221-Regression-resized", 221,
+                {[this] { backend_.selectItems(IDC_SOURCE, {3}); }, [this] { backend_.click(IDC_ADD_DEPENDENT); },
+                 [this] { backend_.selectItems(IDC_SOURCE, {0, 4, 6}); }, [this] { backend_.click(IDC_ADD1); },
+                 [this] { growByHalf(GetActiveWindow()); }});
     // The dialogs the host opens through exports of their own.
     const scenario::LibraryExports& exports = library_.exports();
     if (exports.doSaveDataOptionsDlg)

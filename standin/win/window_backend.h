@@ -59,6 +59,8 @@ public:
     void pressTab() override;
     void pressEnter() override;
     std::string clipboardText() override;
+    // standin/win/window_backend_resize.cpp: the frame dragged to a size.
+    bool resizeDialog(int width, int height) override;
 
 private:
     void pressKey(WPARAM key);

@@ -8,7 +8,7 @@ root="$(cd "$(dirname "$0")/../.." && pwd)"
   for word in vars manyvars file active matrix sorted title helpfile failalloc allocations start launch reinit \
               select add remove dblclick click check uncheck type typerepeat choose show caption syscommand \
               clickat ok cancel continue tab enter reply file font menu showmenu yes no \
-              drag to at key delete ctrl+a accname; do
+              drag to at key delete ctrl+a accname resize; do
     echo "$word"
   done
   grep -ho 'IDC_[A-Z0-9_]*' "$root"/resources/*_ids.h

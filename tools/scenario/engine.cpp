@@ -371,6 +371,14 @@ void Engine::actOnDialog(const Statement& s) {
         if (!x || !y) fail(s, "clickat needs a control and a point X Y");
         else if (!control->enabled) fail(s, "control " + std::to_string(id) + " is disabled");
         else backend_.clickAt(id, static_cast<int>(*x), static_cast<int>(*y));
+    } else if (k == "resize") {
+        constexpr long kLargest = 2000;  // dialog units, past any screen
+        const auto w = s.args.size() == 2 ? toNumber(s.args[0].text) : std::nullopt;
+        const auto h = s.args.size() == 2 ? toNumber(s.args[1].text) : std::nullopt;
+        if (!w || !h || *w <= 0 || *h <= 0 || *w > kLargest || *h > kLargest)
+            fail(s, "resize needs a width and a height in dialog units, 1 to 2000");
+        else if (!backend_.resizeDialog(static_cast<int>(*w), static_cast<int>(*h)))
+            fail(s, quote(backend_.topText()) + " cannot be resized");
     } else if (k == "syscommand") {
         const auto code = s.args.empty() ? std::nullopt : toNumber(s.args[0].text);
         if (!code) fail(s, "syscommand takes a number");

@@ -151,6 +151,13 @@ public:
     // The Tab and Enter keys, pressed in the topmost dialog.
     virtual void pressTab() = 0;
     virtual void pressEnter() = 0;
+    // The user drags the frame of the topmost dialog until its client area
+    // is width x height dialog units (or as small as the dialog allows);
+    // false when that dialog cannot be resized.
+    virtual bool resizeDialog(int width, int height) {
+        (void)width, (void)height;
+        return false;
+    }
     // The text on the clipboard (CF_TEXT), empty when there is none.
     virtual std::string clipboardText() { return {}; }
     // After each statement: what a real window leaves in its message queue

@@ -1,0 +1,100 @@
+#include "core/dialog_resize.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+namespace kvs {
+
+namespace {
+
+// v scaled by to/from, rounded to the nearest unit (halves up).
+int scaled(int v, int to, int from) {
+    if (from <= 0) return v;
+    const std::int64_t product = static_cast<std::int64_t>(v) * to;
+    return static_cast<int>((2 * product + from) / (2 * static_cast<std::int64_t>(from)));
+}
+
+bool holds(const DialogRect& outer, const DialogRect& inner) {
+    const bool same = outer.x == inner.x && outer.y == inner.y && outer.width == inner.width &&
+                      outer.height == inner.height;
+    return !same && outer.x <= inner.x && outer.y <= inner.y && outer.right() >= inner.right() &&
+           outer.bottom() >= inner.bottom();
+}
+
+std::int64_t area(const DialogRect& r) { return static_cast<std::int64_t>(r.width) * r.height; }
+
+constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+
+struct Planner {
+    const std::vector<ResizeItem>& items;
+    const DialogRect& original;
+    int width, height;
+    std::vector<std::size_t> box;   // the smallest box holding each item, or kNone
+    std::vector<bool> stretches;    // an item, or a box holding one, that grows
+    std::vector<bool> done;
+    std::vector<DialogRect> result;
+
+    // One axis of the general rule: position from, size, original extent,
+    // new extent; returns the new position and size.
+    static std::pair<int, int> axis(int from, int size, bool grows, int extent, int to) {
+        if (grows) {
+            const int start = scaled(from, to, extent);
+            return {start, scaled(from + size, to, extent) - start};
+        }
+        if (extent - (from + size) <= kEdgeNear) return {from + to - extent, size};
+        return {scaled(from, to, extent), size};
+    }
+
+    const DialogRect& place(std::size_t i) {
+        if (done[i]) return result[i];
+        const DialogRect& r = items[i].rect;
+        DialogRect next;
+        const std::size_t holder = box[i];
+        if (holder != kNone && !stretches[holder]) {
+            // Inside a box that keeps its size: the same place in the box.
+            const DialogRect& from = items[holder].rect;
+            const DialogRect& to = place(holder);
+            next = {to.x + r.x - from.x, to.y + r.y - from.y, r.width, r.height};
+        } else {
+            const auto [x, w] = axis(r.x, r.width, stretches[i], original.width, width);
+            const auto [y, h] = axis(r.y, r.height, stretches[i], original.height, height);
+            next = {x, y, w, h};
+        }
+        result[i] = next;
+        done[i] = true;
+        return result[i];
+    }
+};
+
+}  // namespace
+
+ResizeItem::Kind resizeKindOf(const ControlLayout& control) {
+    if (control.type == ControlType::ListBox || (control.type == ControlType::Edit && control.multiLine))
+        return ResizeItem::Kind::Stretch;
+    return control.type == ControlType::Button ? ResizeItem::Kind::Box : ResizeItem::Kind::Fixed;
+}
+
+std::vector<DialogRect> resizedLayout(const std::vector<ResizeItem>& items, const DialogRect& original, int width,
+                                      int height) {
+    const std::size_t n = items.size();
+    Planner plan{items, original, std::max(width, original.width), std::max(height, original.height),
+                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false), std::vector<bool>(n, false),
+                 std::vector<DialogRect>(n)};
+    for (std::size_t i = 0; i < n; ++i) {
+        for (std::size_t b = 0; b < n; ++b) {
+            if (items[b].kind != ResizeItem::Kind::Box || !holds(items[b].rect, items[i].rect)) continue;
+            if (plan.box[i] == kNone || area(items[b].rect) < area(items[plan.box[i]].rect)) plan.box[i] = b;
+        }
+    }
+    for (std::size_t i = 0; i < n; ++i) {
+        if (items[i].kind != ResizeItem::Kind::Stretch) continue;
+        plan.stretches[i] = true;
+        // Every box around a growing control grows too.
+        for (std::size_t b = plan.box[i]; b != kNone; b = plan.box[b]) plan.stretches[b] = true;
+    }
+    for (std::size_t i = 0; i < n; ++i) plan.place(i);
+    return plan.result;
+}
+
+}  // namespace kvs
