@@ -17,7 +17,6 @@ constexpr int kButtonHeight = 14;
 constexpr int kGap = 4;
 constexpr std::string_view kLabel = "Command preview:";
 constexpr std::string_view kCopy = "Copy";
-constexpr int kLabelId = IDC_COMMAND_PREVIEW + 100;  // 1060: no template uses it
 
 }  // namespace
 
@@ -32,7 +31,7 @@ std::string previewText(const Composition& composition) {
 }
 
 bool CommandPreview::owns(int controlId) {
-    return controlId == IDC_COMMAND_PREVIEW || controlId == IDC_COPY_COMMANDS || controlId == kLabelId;
+    return controlId == IDC_COMMAND_PREVIEW || controlId == IDC_COPY_COMMANDS || controlId == IDC_COMMAND_PREVIEW_LABEL;
 }
 
 bool CommandPreview::install(DialogView& view) {
@@ -51,9 +50,9 @@ bool CommandPreview::install(DialogView& view) {
     if (needed > 0) view.growClient(0, needed);
     const int buttonLeft = client.width - kMargin - kButtonWidth;
     const int fieldWidth = buttonLeft - kGap - kMargin;
-    installed_ = view.addControl({AddedKind::Label, kLabelId, label, {kMargin, top, fieldWidth, kLabelHeight}, 0}) &&
+    installed_ = view.addControl({AddedKind::Label, IDC_COMMAND_PREVIEW_LABEL, label, {kMargin, top, fieldWidth, kLabelHeight}, 0}) &&
                  view.addControl({AddedKind::ReadOnlyText, IDC_COMMAND_PREVIEW, "",
-                                  {kMargin, fieldTop, fieldWidth, kFieldHeight}, kLabelId}) &&
+                                  {kMargin, fieldTop, fieldWidth, kFieldHeight}, IDC_COMMAND_PREVIEW_LABEL}) &&
                  view.addControl({AddedKind::PushButton, IDC_COPY_COMMANDS, copy,
                                   {buttonLeft, fieldTop, kButtonWidth, kButtonHeight}, IDC_COMMAND_PREVIEW});
     return installed_;

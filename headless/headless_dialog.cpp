@@ -6,6 +6,18 @@
 namespace kvs::headless {
 namespace {
 
+// The seam's kind of a template control (statics and others alike).
+ControlType typeOf(ControlKind kind) {
+    switch (kind) {
+    case ControlKind::Button: return ControlType::Button;
+    case ControlKind::Edit: return ControlType::Edit;
+    case ControlKind::ListBox: return ControlType::ListBox;
+    case ControlKind::ComboBox: return ControlType::ComboBox;
+    default: return ControlType::Other;
+    }
+}
+
+
 // A Win32 control keeps a C string: text ends at an embedded NUL.
 std::string cText(std::string_view text) { return std::string(text.substr(0, text.find('\0'))); }
 
@@ -114,12 +126,9 @@ std::vector<ControlLayout> HeadlessDialog::layout() const {
     std::vector<ControlLayout> all;
     all.reserve(controls_.size());
     for (const ControlState& c : controls_) {
-        ControlLayout control{c.def.id, controlType(c.def.id), {}, {c.def.x, c.def.y, c.def.w, c.def.h}};
-        control.multiLine = c.def.kind == ControlKind::Edit && (c.def.style & 0x4u) != 0;  // ES_MULTILINE
-        if (c.def.kind == ControlKind::Static || c.def.kind == ControlKind::Button) {
-            control.type = c.def.kind == ControlKind::Button ? ControlType::Button : ControlType::Other;
-            control.text = c.text;
-        }
+        ControlLayout control{c.def.id, typeOf(c.def.kind), {}, {c.def.x, c.def.y, c.def.w, c.def.h}};
+        control.multiLine = c.def.editMultiline();
+        if (control.type == ControlType::Button || control.type == ControlType::Other) control.text = c.text;
         all.push_back(std::move(control));
     }
     return all;
@@ -242,15 +251,7 @@ std::optional<ControlKind> HeadlessDialog::kindOf(int id) const {
     return c->def.kind;
 }
 
-ControlType HeadlessDialog::controlType(int id) const {
-    switch (kindOf(id).value_or(ControlKind::Other)) {
-    case ControlKind::Button: return ControlType::Button;
-    case ControlKind::Edit: return ControlType::Edit;
-    case ControlKind::ListBox: return ControlType::ListBox;
-    case ControlKind::ComboBox: return ControlType::ComboBox;
-    default: return ControlType::Other;
-    }
-}
+ControlType HeadlessDialog::controlType(int id) const { return typeOf(kindOf(id).value_or(ControlKind::Other)); }
 
 // ---------------------------------------------------------------------------
 // Window text, state and focus

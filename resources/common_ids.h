@@ -41,6 +41,7 @@
    list with its label. */
 #define IDC_COMMAND_PREVIEW  960
 #define IDC_COPY_COMMANDS    961
+#define IDC_COMMAND_PREVIEW_LABEL 968
 #define IDC_SOURCE_FILTER    962
 #define IDC_SOURCE2_FILTER   963
 #define IDC_SOURCE_FILTER_LABEL  964

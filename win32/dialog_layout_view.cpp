@@ -2,6 +2,7 @@
 // logic places what it adds in the units of the templates it extends.
 #include <algorithm>
 
+#include "win32/control_reading.h"
 #include "win32/module_instance.h"
 #include "win32/win32_dialog_view.h"
 
@@ -58,21 +59,9 @@ std::vector<ControlLayout> Win32DialogView::layout() const {
     std::vector<ControlLayout> all;
     for (HWND control = GetWindow(dialog_, GW_CHILD); control; control = GetWindow(control, GW_HWNDNEXT)) {
         const int id = GetDlgCtrlID(control);
-        ControlLayout entry{id, ControlType::Other, {}, rectOf(control)};
-        char name[32] = {};
-        GetClassNameA(control, name, static_cast<int>(sizeof name));
-        if (lstrcmpiA(name, "Button") == 0) entry.type = ControlType::Button;
-        else if (lstrcmpiA(name, "Edit") == 0) {
-            entry.type = ControlType::Edit;
-            entry.multiLine = (GetWindowLongA(control, GWL_STYLE) & ES_MULTILINE) != 0;
-        }
-        else if (lstrcmpiA(name, "ListBox") == 0) entry.type = ControlType::ListBox;
-        else if (lstrcmpiA(name, "ComboBox") == 0) entry.type = ControlType::ComboBox;
-        if (entry.type == ControlType::Button || entry.type == ControlType::Other) {
-            char text[256] = {};
-            const int length = GetWindowTextA(control, text, static_cast<int>(sizeof text));
-            entry.text.assign(text, static_cast<std::size_t>(std::max(length, 0)));
-        }
+        ControlLayout entry{id, typeOfControl(control), {}, rectOf(control)};
+        if (entry.type == ControlType::Edit) entry.multiLine = (GetWindowLongA(control, GWL_STYLE) & ES_MULTILINE) != 0;
+        if (entry.type == ControlType::Button || entry.type == ControlType::Other) entry.text = windowText(control);
         all.push_back(std::move(entry));
     }
     return all;

@@ -52,6 +52,20 @@ void destroyCursor(HCURSOR cursor) {
     if (function && cursor) function(cursor);
 }
 
+DPI_AWARENESS_CONTEXT setThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT context) {
+    using Function = DPI_AWARENESS_CONTEXT(WINAPI*)(DPI_AWARENESS_CONTEXT);
+    static const auto function = resolve<Function>(user32(), "SetThreadDpiAwarenessContext");
+    return function ? function(context) : nullptr;
+}
+
+bool htmlHelp(HWND owner, const char* file, UINT command, DWORD_PTR data) {
+    using Function = HWND(WINAPI*)(HWND, LPCSTR, UINT, DWORD_PTR);
+    static const auto function = resolve<Function>(loaded(L"hhctrl.ocx"), "HtmlHelpA");
+    if (!function) return false;
+    function(owner, file, command, data);
+    return true;
+}
+
 HRESULT createStdAccessibleObject(HWND window, LONG objectId, REFIID iid, void** object) {
     using Function = HRESULT(WINAPI*)(HWND, LONG, REFIID, void**);
     static const auto function = resolve<Function>(loaded(L"oleacc.dll"), "CreateStdAccessibleObject");

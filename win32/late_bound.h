@@ -17,6 +17,14 @@ HCURSOR createCursor(HINSTANCE instance, int hotX, int hotY, int width, int heig
                      const void* xorMask);
 void destroyCursor(HCURSOR cursor);
 
+// SetThreadDpiAwarenessContext (Windows 10 1607 and later): the previous
+// context, or null when Windows lacks it (nothing changes then).
+DPI_AWARENESS_CONTEXT setThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT context);
+
+// HtmlHelpA of hhctrl.ocx, loaded on first use and kept: false when HTML
+// Help is missing, so the caller can fall back to WinHelp.
+bool htmlHelp(HWND owner, const char* file, UINT command, DWORD_PTR data);
+
 // oleacc.dll and oleaut32.dll, loaded on first use and kept. Each returns
 // E_NOTIMPL (or null) when its library or function is missing.
 HRESULT createStdAccessibleObject(HWND window, LONG objectId, REFIID iid, void** object);

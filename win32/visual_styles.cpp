@@ -1,5 +1,6 @@
 #include "win32/visual_styles.h"
 
+#include "win32/late_bound.h"
 #include "win32/module_instance.h"
 
 namespace kvs::win32 {
@@ -28,20 +29,8 @@ HANDLE visualStyles() {
     return context;
 }
 
-using SetDpiContext = void*(WINAPI*)(void*);
-
-SetDpiContext setThreadDpiContext() {
-    static const SetDpiContext function = [] {
-        HMODULE user = GetModuleHandleA("user32.dll");
-        return user ? reinterpret_cast<SetDpiContext>(
-                          reinterpret_cast<void*>(GetProcAddress(user, "SetThreadDpiAwarenessContext")))
-                    : nullptr;
-    }();
-    return function;
-}
-
 // DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2
-void* const kPerMonitorV2 = reinterpret_cast<void*>(static_cast<INT_PTR>(-4));
+const DPI_AWARENESS_CONTEXT kPerMonitorV2 = reinterpret_cast<DPI_AWARENESS_CONTEXT>(static_cast<INT_PTR>(-4));
 
 }  // namespace
 
@@ -54,11 +43,11 @@ void releaseVisualStyles() {
 VisualStyleScope::VisualStyleScope() {
     const HANDLE styles = visualStyles();
     if (styles != INVALID_HANDLE_VALUE) active_ = ActivateActCtx(styles, &cookie_) != FALSE;
-    if (const SetDpiContext set = setThreadDpiContext()) previousDpi_ = set(kPerMonitorV2);
+    previousDpi_ = setThreadDpiAwarenessContext(kPerMonitorV2);
 }
 
 VisualStyleScope::~VisualStyleScope() {
-    if (previousDpi_) setThreadDpiContext()(previousDpi_);
+    if (previousDpi_) setThreadDpiAwarenessContext(previousDpi_);
     if (active_) DeactivateActCtx(0, cookie_);
 }
 

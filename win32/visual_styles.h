@@ -15,8 +15,7 @@ void releaseVisualStyles();
 // For its lifetime: the context active (nothing when there is none), and
 // the thread aware of each monitor's DPI, so the windows it creates are
 // laid out at their monitor's scale instead of stretched from 96 DPI
-// (SetThreadDpiAwarenessContext, looked up at run time: older Windows lack
-// it and go on as before).
+// (looked up at run time: older Windows lack it and go on as before).
 class VisualStyleScope {
 public:
     VisualStyleScope();
@@ -27,7 +26,7 @@ public:
 private:
     ULONG_PTR cookie_ = 0;
     bool active_ = false;
-    void* previousDpi_ = nullptr;
+    DPI_AWARENESS_CONTEXT previousDpi_ = nullptr;
 };
 
 }  // namespace kvs::win32

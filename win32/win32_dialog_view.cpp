@@ -21,8 +21,6 @@ public:
     ChangingControls& operator=(const ChangingControls&) = delete;
 };
 
-enum class Kind { Other, Button, ListBox, ComboBox, Edit };
-
 char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 bool sameName(std::string_view a, std::string_view b) {
@@ -31,23 +29,12 @@ bool sameName(std::string_view a, std::string_view b) {
            });
 }
 
-Kind kindOf(HWND control) {
-    char name[32] = {};
-    const int length = GetClassNameA(control, name, static_cast<int>(sizeof name));
-    const std::string_view cls(name, static_cast<std::size_t>(std::max(length, 0)));
-    if (sameName(cls, "Button")) return Kind::Button;
-    if (sameName(cls, "ListBox")) return Kind::ListBox;
-    if (sameName(cls, "ComboBox")) return Kind::ComboBox;
-    if (sameName(cls, "Edit")) return Kind::Edit;
-    return Kind::Other;
-}
-
 bool isStaticText(HWND control) {
     char name[16] = {};
     return GetClassNameA(control, name, static_cast<int>(sizeof name)) > 0 && lstrcmpiA(name, "Static") == 0;
 }
 
-HWND ofKind(HWND control, Kind kind) { return control && kindOf(control) == kind ? control : nullptr; }
+HWND ofKind(HWND control, ControlType type) { return control && typeOfControl(control) == type ? control : nullptr; }
 
 LRESULT send(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageA(control, message, wParam, lParam);
@@ -79,6 +66,17 @@ LRESULT insertItem(HWND list, const std::string& item, ListInsert how) {
 
 bool viewIsChangingControls() { return changingDepth > 0; }
 
+ControlType typeOfControl(HWND control) {
+    char name[32] = {};
+    const int length = GetClassNameA(control, name, static_cast<int>(sizeof name));
+    const std::string_view cls(name, static_cast<std::size_t>(std::max(length, 0)));
+    if (sameName(cls, "Button")) return ControlType::Button;
+    if (sameName(cls, "ListBox")) return ControlType::ListBox;
+    if (sameName(cls, "ComboBox")) return ControlType::ComboBox;
+    if (sameName(cls, "Edit")) return ControlType::Edit;
+    return ControlType::Other;
+}
+
 // GetDlgItem asks the window server for the dialog's children (under Wine a
 // round trip of tens of microseconds), and filling a list calls for a control
 // once per variable. A found control is remembered while it stays this
@@ -97,16 +95,7 @@ HWND Win32DialogView::child(int id) const {
 
 bool Win32DialogView::has(int id) const { return child(id) != nullptr; }
 
-ControlType Win32DialogView::controlType(int id) const {
-    HWND control = child(id);
-    char name[32] = {};
-    if (!control || GetClassNameA(control, name, static_cast<int>(sizeof name)) == 0) return ControlType::Other;
-    if (lstrcmpiA(name, "Button") == 0) return ControlType::Button;
-    if (lstrcmpiA(name, "Edit") == 0) return ControlType::Edit;
-    if (lstrcmpiA(name, "ListBox") == 0) return ControlType::ListBox;
-    if (lstrcmpiA(name, "ComboBox") == 0) return ControlType::ComboBox;
-    return ControlType::Other;
-}
+ControlType Win32DialogView::controlType(int id) const { return typeOfControl(child(id)); }
 
 // ---------------------------------------------------------------------------
 // Text, state and focus
@@ -120,7 +109,7 @@ std::string Win32DialogView::text(int id) const {
 // A drop-down list has no edit field: setting its text changes nothing.
 void Win32DialogView::setText(int id, std::string_view text) {
     HWND control = child(id);
-    if (!control || (kindOf(control) == Kind::ComboBox && dropList(control))) return;
+    if (!control || (typeOfControl(control) == ControlType::ComboBox && dropList(control))) return;
     ChangingControls changing;
     SetWindowTextA(control, cString(text).c_str());
 }
@@ -138,12 +127,12 @@ void Win32DialogView::enable(int id, bool on) {
 }
 
 bool Win32DialogView::isChecked(int id) const {
-    HWND button = ofKind(child(id), Kind::Button);
+    HWND button = ofKind(child(id), ControlType::Button);
     return button && isCheckableButton(button) && send(button, BM_GETCHECK) == BST_CHECKED;
 }
 
 void Win32DialogView::setChecked(int id, bool on) {
-    HWND button = ofKind(child(id), Kind::Button);
+    HWND button = ofKind(child(id), ControlType::Button);
     if (!button || !isCheckableButton(button)) return;
     ChangingControls changing;
     send(button, BM_SETCHECK, on ? BST_CHECKED : BST_UNCHECKED);
@@ -161,19 +150,19 @@ void Win32DialogView::setFocus(int id) {
 // List boxes
 
 int Win32DialogView::listCount(int id) const {
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return 0;
     const LRESULT count = send(list, LB_GETCOUNT);
     return count > 0 ? static_cast<int>(count) : 0;
 }
 
 std::string Win32DialogView::listText(int id, int index) const {
-    return itemText(ofKind(child(id), Kind::ListBox), LB_GETTEXTLEN, LB_GETTEXT, index);
+    return itemText(ofKind(child(id), ControlType::ListBox), LB_GETTEXTLEN, LB_GETTEXT, index);
 }
 
 int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
     textsRead_.erase(id);
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return kListError;
     const std::string item = cString(text);
     std::size_t* longest = longestOf(list, id);
@@ -188,7 +177,7 @@ int Win32DialogView::listAdd(int id, std::string_view text, ListInsert how) {
 
 int Win32DialogView::listInsertAt(int id, int index, std::string_view text) {
     textsRead_.erase(id);
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return kListError;
     const std::string item = cString(text);
     if (std::size_t* longest = longestOf(list, id)) *longest = std::max(*longest, item.size());
@@ -201,7 +190,7 @@ int Win32DialogView::listInsertAt(int id, int index, std::string_view text) {
 
 void Win32DialogView::listDelete(int id, int index) {
     textsRead_.erase(id);
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list || !validIndex(list, LB_GETCOUNT, index)) return;
     ChangingControls changing;
     send(list, LB_DELETESTRING, static_cast<WPARAM>(index));
@@ -210,7 +199,7 @@ void Win32DialogView::listDelete(int id, int index) {
 
 void Win32DialogView::listClear(int id) {
     textsRead_.erase(id);
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return;
     ChangingControls changing;
     send(list, LB_RESETCONTENT);
@@ -228,7 +217,7 @@ std::size_t* Win32DialogView::longestOf(HWND list, int id) {
 
 // LB_GETSELITEMS for a multi-select list box, LB_GETCURSEL otherwise.
 std::vector<int> Win32DialogView::listSelection(int id) const {
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return {};
     if (!multiSelect(list)) {
         const LRESULT current = send(list, LB_GETCURSEL);
@@ -248,7 +237,7 @@ std::vector<int> Win32DialogView::listSelection(int id) const {
 // selecting makes the item the only selection; deselecting the selected
 // item (or -1) leaves none.
 void Win32DialogView::listSelect(int id, int index, bool on) {
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return;
     ChangingControls changing;
     if (multiSelect(list)) {
@@ -264,7 +253,7 @@ void Win32DialogView::listSelect(int id, int index, bool on) {
 // LB_SETCURSEL: not for multi-select list boxes; -1 clears; an index out of
 // range changes nothing.
 void Win32DialogView::listSetCurrent(int id, int index) {
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list || multiSelect(list)) return;
     if (index != -1 && !validIndex(list, LB_GETCOUNT, index)) return;
     ChangingControls changing;
@@ -288,7 +277,7 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, std::size_t c
                                                            ListInsert how) {
     textsRead_.erase(id);
     ListAddResult result;
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list) return result;
     std::size_t* longest = longestOf(list, id);
     ChangingControls changing;
@@ -310,7 +299,7 @@ Win32DialogView::ListAddResult Win32DialogView::listAddAll(int id, std::size_t c
 }
 
 const std::vector<std::string>& Win32DialogView::listTexts(int id) const {
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     const LRESULT count = list ? send(list, LB_GETCOUNT) : 0;
     std::vector<std::string>& texts = textsRead_[id];
     if (count > 0 && texts.size() == static_cast<std::size_t>(count)) return texts;
@@ -340,7 +329,7 @@ const std::vector<std::string>& Win32DialogView::listTexts(int id) const {
 
 // Item storage and room for names of up to 16 characters.
 void Win32DialogView::listReserve(int id, std::size_t count) {
-    HWND list = ofKind(child(id), Kind::ListBox);
+    HWND list = ofKind(child(id), ControlType::ListBox);
     if (!list || count == 0) return;
     send(list, LB_INITSTORAGE, static_cast<WPARAM>(count), static_cast<LPARAM>(count * 16));
 }
@@ -349,7 +338,7 @@ void Win32DialogView::listReserve(int id, std::size_t count) {
 // Combo boxes
 
 void Win32DialogView::comboAdd(int id, std::string_view text) {
-    HWND combo = ofKind(child(id), Kind::ComboBox);
+    HWND combo = ofKind(child(id), ControlType::ComboBox);
     if (!combo) return;
     const std::string item = cString(text);
     ChangingControls changing;
@@ -358,7 +347,7 @@ void Win32DialogView::comboAdd(int id, std::string_view text) {
 
 // CB_RESETCONTENT; the edit field is emptied too.
 void Win32DialogView::comboClear(int id) {
-    HWND combo = ofKind(child(id), Kind::ComboBox);
+    HWND combo = ofKind(child(id), ControlType::ComboBox);
     if (!combo) return;
     ChangingControls changing;
     send(combo, CB_RESETCONTENT);
@@ -366,7 +355,7 @@ void Win32DialogView::comboClear(int id) {
 }
 
 int Win32DialogView::comboSelection(int id) const {
-    HWND combo = ofKind(child(id), Kind::ComboBox);
+    HWND combo = ofKind(child(id), ControlType::ComboBox);
     if (!combo) return -1;
     const LRESULT current = send(combo, CB_GETCURSEL);
     return current < 0 ? -1 : static_cast<int>(current);
@@ -375,7 +364,7 @@ int Win32DialogView::comboSelection(int id) const {
 // CB_SETCURSEL copies the item into the edit field; -1 or an index out of
 // range clears both the selection and the edit field.
 void Win32DialogView::comboSelect(int id, int index) {
-    HWND combo = ofKind(child(id), Kind::ComboBox);
+    HWND combo = ofKind(child(id), ControlType::ComboBox);
     if (!combo) return;
     ChangingControls changing;
     if (!validIndex(combo, CB_GETCOUNT, index)) index = -1;
@@ -386,7 +375,7 @@ void Win32DialogView::comboSelect(int id, int index) {
 // Edit controls
 
 std::pair<int, int> Win32DialogView::editSelection(int id) const {
-    HWND edit = ofKind(child(id), Kind::Edit);
+    HWND edit = ofKind(child(id), ControlType::Edit);
     if (!edit) return {0, 0};
     DWORD start = 0, end = 0;
     send(edit, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
@@ -394,7 +383,7 @@ std::pair<int, int> Win32DialogView::editSelection(int id) const {
 }
 
 void Win32DialogView::setEditSelection(int id, int start, int end) {
-    HWND edit = ofKind(child(id), Kind::Edit);
+    HWND edit = ofKind(child(id), ControlType::Edit);
     if (!edit) return;
     ChangingControls changing;
     send(edit, EM_SETSEL, static_cast<WPARAM>(start), static_cast<LPARAM>(end));

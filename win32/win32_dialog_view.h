@@ -93,4 +93,7 @@ private:
 // handlers see the same notifications as under the headless backend.
 bool viewIsChangingControls();
 
+// The kind of a control by its window class; Other for none or another class.
+ControlType typeOfControl(HWND control);
+
 }  // namespace kvs::win32

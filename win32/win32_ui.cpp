@@ -10,6 +10,7 @@
 
 #include "core/file_filters.h"
 #include "win32/dialog_procedure.h"
+#include "win32/late_bound.h"
 #include "win32/visual_styles.h"
 #include "win32/modeless_dialog.h"
 #include "win32/numeric_field_window.h"
@@ -140,31 +141,16 @@ std::optional<std::string> Win32Ui::chooseFile(const FileRequest& request) {
 
 namespace {
 
-// HTML Help's entry point, from hhctrl.ocx loaded on first use (the DLL does
-// not import it: a host without HTML Help still loads the library).
-using HtmlHelpFunction = HWND(WINAPI*)(HWND, LPCSTR, UINT, DWORD_PTR);
-
-HtmlHelpFunction htmlHelp() {
-    static const HtmlHelpFunction function = [] {
-        HMODULE module = LoadLibraryA("hhctrl.ocx");
-        return module ? reinterpret_cast<HtmlHelpFunction>(reinterpret_cast<void*>(GetProcAddress(module, "HtmlHelpA")))
-                      : nullptr;
-    }();
-    return function;
-}
-
 constexpr UINT kHhDisplayToc = 0x0001, kHhDisplayIndex = 0x0002, kHhHelpContext = 0x000F;
 
+// hhctrl.ocx is loaded at run time (win32/late_bound.h): a host without
+// HTML Help still loads the library.
 bool openHtmlHelp(HWND owner, const HelpRequest& request) {
-    const HtmlHelpFunction function = htmlHelp();
-    if (!function) return false;
     const char* file = request.htmlFile.c_str();
     switch (request.kind) {
-    case HelpKind::Context: function(owner, file, kHhHelpContext, request.context); return true;
-    case HelpKind::Contents: function(owner, file, kHhDisplayToc, 0); return true;
-    case HelpKind::Key:
-        function(owner, file, kHhDisplayIndex, reinterpret_cast<DWORD_PTR>(request.key.c_str()));
-        return true;
+    case HelpKind::Context: return htmlHelp(owner, file, kHhHelpContext, request.context);
+    case HelpKind::Contents: return htmlHelp(owner, file, kHhDisplayToc, 0);
+    case HelpKind::Key: return htmlHelp(owner, file, kHhDisplayIndex, reinterpret_cast<DWORD_PTR>(request.key.c_str()));
     case HelpKind::HelpOnHelp: return false;
     }
     return false;

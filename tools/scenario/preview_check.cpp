@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include "tools/scenario/scenario.h"
+
 namespace kvs::scenario {
 
 namespace {
@@ -9,7 +11,7 @@ namespace {
 constexpr std::string_view kMark = "#preview";
 
 // The quoted strings of a transcript line, unescaped, and whether the line
-// says "refused".
+// says "refused": a transcript line reads as a scenario statement.
 struct Tokens {
     std::vector<std::string> quoted;
     bool refused = false;
@@ -17,38 +19,11 @@ struct Tokens {
 
 Tokens tokensOf(std::string_view line) {
     Tokens tokens;
-    std::size_t i = 0;
-    while (i < line.size()) {
-        if (line[i] != '"') {
-            const std::size_t end = line.find_first_of(" \"", i);
-            const std::string_view word = line.substr(i, end == std::string_view::npos ? end : end - i);
-            if (word == "refused") tokens.refused = true;
-            i = end == std::string_view::npos ? line.size() : (line[end] == ' ' ? end + 1 : end);
-            continue;
-        }
-        std::string text;
-        for (++i; i < line.size() && line[i] != '"'; ++i) {
-            if (line[i] != '\\' || i + 1 >= line.size()) {
-                text += line[i];
-                continue;
-            }
-            const char escaped = line[++i];
-            switch (escaped) {
-            case 'r': text += '\r'; break;
-            case 'n': text += '\n'; break;
-            case 't': text += '\t'; break;
-            case 'x':
-                if (i + 2 < line.size()) {
-                    text += static_cast<char>(std::stoi(std::string(line.substr(i + 1, 2)), nullptr, 16));
-                    i += 2;
-                }
-                break;
-            default: text += escaped; break;
-            }
-        }
-        tokens.quoted.push_back(std::move(text));
-        i = i < line.size() ? i + 1 : i;
-        if (i < line.size() && line[i] == ' ') ++i;
+    const ParseResult parsed = parse(line);
+    if (parsed.statements.empty()) return tokens;
+    for (const Token& token : parsed.statements.front().args) {
+        if (token.quoted) tokens.quoted.push_back(token.text);
+        else if (token.text == "refused") tokens.refused = true;
     }
     return tokens;
 }
@@ -111,16 +86,16 @@ PreviewReport checkPreviews(std::string_view transcript) {
             report.transcript += '\n';
             continue;
         }
-        const Tokens shown = tokensOf(lines[i].substr(kMark.size()));
+        const Tokens shown = tokensOf(lines[i].substr(1));  // without the '#'
         Outcome outcome;
         for (std::size_t j = i + 1; j < lines.size() && !outcome.ended; ++j) {
             const std::string_view line = lines[j];
             if (startsWith(line, kMark) || line == kMark) break;
             if (startsWith(line, "AddCmd")) {
-                const Tokens command = tokensOf(line.substr(6));
+                const Tokens command = tokensOf(line);
                 if (!command.quoted.empty()) outcome.commands.push_back(command.quoted.front());
             } else if (startsWith(line, "message") && !outcome.firstMessage) {
-                const Tokens message = tokensOf(line.substr(7));
+                const Tokens message = tokensOf(line);
                 if (!message.quoted.empty()) outcome.firstMessage = message.quoted.back();
             } else if (startsWith(line, "chooser")) {
                 outcome.chooser = true;

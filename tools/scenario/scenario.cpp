@@ -1,5 +1,6 @@
 #include "tools/scenario/scenario.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 
@@ -27,6 +28,17 @@ bool readQuoted(std::string_view text, std::size_t& pos, std::string& out, std::
         case 'r': out += '\r'; break;
         case 'n': out += '\n'; break;
         case 't': out += '\t'; break;
+        case 'x': {  // \xHH, as transcripts write other control bytes
+            unsigned value = 0;
+            const auto [end, ec] = std::from_chars(text.data() + pos, text.data() + std::min(pos + 2, text.size()), value, 16);
+            if (ec != std::errc() || end != text.data() + pos + 2) {
+                error = "unknown escape in string";
+                return false;
+            }
+            out += static_cast<char>(value);
+            pos += 2;
+            break;
+        }
         default: error = "unknown escape in string"; return false;
         }
     }
