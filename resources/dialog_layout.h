@@ -7,7 +7,9 @@
 
 #include "common_ids.h"
 
-#define KVS_DIALOG_STYLE DS_MODALFRAME | DS_SETFONT | WS_POPUP | WS_CAPTION | WS_SYSMENU
+/* DS_SHELLFONT with "MS Shell Dlg" asks Windows for its current dialog font
+ * ("MS Shell Dlg 2"), as the system's own dialogs use. */
+#define KVS_DIALOG_STYLE DS_MODALFRAME | DS_SHELLFONT | WS_POPUP | WS_CAPTION | WS_SYSMENU
 #define KVS_DIALOG_FONT 8, "MS Shell Dlg"
 
 /* OK, Cancel and Help from the top of the column at x, each width wide. */

@@ -24,6 +24,8 @@
 
 #define DS_MODALFRAME       0x80L
 #define DS_SETFONT          0x40L
+#define DS_FIXEDSYS         0x0008L
+#define DS_SHELLFONT        (DS_SETFONT | DS_FIXEDSYS)
 #define DS_CENTER           0x0800L
 
 #define BS_PUSHBUTTON       0x00000000L

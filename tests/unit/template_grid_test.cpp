@@ -1,0 +1,201 @@
+// Every dialog template keeps the layout grid of docs/layout.md: lists show
+// whole rows, a label sits level with the field it names, the labels of one
+// column put their fields in one column, and sister dialogs share columns.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/dialog_grid.h"
+#include "core/dispatch_table.h"
+#include "core/source_filter.h"
+#include "core/variable_list.h"
+#include "families/library.h"
+#include "headless/headless_dialog.h"
+#include "headless/rc_template.h"
+#include "tests/unit/library_resources.h"
+
+namespace {
+
+using kvs::headless::ControlKind;
+using kvs::headless::ControlTemplate;
+using kvs::headless::DialogTemplate;
+
+const kvs::headless::ResourceSet& resources() { return kvs::testing::libraryResources(); }
+
+constexpr std::uint32_t kNoIntegralHeight = 0x0100u;
+constexpr int kOneRowList = 19;  // lower than this a list holds one name
+
+std::string listed(const std::vector<std::string>& faults) {
+    std::string all;
+    for (const std::string& fault : faults) all += "\n  " + fault;
+    return all;
+}
+
+std::string where(const DialogTemplate& d, const ControlTemplate& c) {
+    return d.name + ": " + std::to_string(c.id) + " \"" + c.text + "\" at (" + std::to_string(c.x) + ", " +
+           std::to_string(c.y) + ")";
+}
+
+bool isLabel(const ControlTemplate& c) {
+    const std::uint32_t type = c.style & 0x1Fu;
+    return c.kind == ControlKind::Static && type <= 2 && c.h <= 10 && !c.text.empty();
+}
+
+bool isField(const ControlTemplate& c) {
+    return (c.kind == ControlKind::Edit && !c.editMultiline()) || c.kind == ControlKind::ComboBox;
+}
+
+int shownHeight(const ControlTemplate& c) { return c.kind == ControlKind::ComboBox ? 12 : c.h; }
+
+// The field a label names on its row: the nearest one to its right whose
+// shown height the label's text overlaps.
+const ControlTemplate* fieldOf(const DialogTemplate& d, const ControlTemplate& label) {
+    constexpr int kFarthest = 40;
+    const ControlTemplate* best = nullptr;
+    for (const ControlTemplate& c : d.controls) {
+        if (!isField(c) || c.x <= label.x || c.x + 2 < label.x + label.w || c.x - (label.x + label.w) > kFarthest) continue;
+        const bool overlaps = label.y < c.y + shownHeight(c) && c.y < label.y + label.h;
+        if (overlaps && (!best || c.x < best->x)) best = &c;
+    }
+    return best;
+}
+
+// The smallest group box wholly around a control, as an index; -1 for none.
+int boxAround(const DialogTemplate& d, const ControlTemplate& c) {
+    int best = -1;
+    for (std::size_t i = 0; i < d.controls.size(); ++i) {
+        const ControlTemplate& b = d.controls[i];
+        if (!b.isGroupBox() || &b == &c) continue;
+        const bool holds = b.x <= c.x && b.y <= c.y && b.x + b.w >= c.x + c.w && b.y + b.h >= c.y + c.h;
+        if (holds && (best < 0 || b.w * b.h < d.controls[best].w * d.controls[best].h)) best = static_cast<int>(i);
+    }
+    return best;
+}
+
+struct Pair {
+    const ControlTemplate* label;
+    const ControlTemplate* field;
+    int box;
+};
+
+std::vector<Pair> labelledFields(const DialogTemplate& d) {
+    std::vector<Pair> pairs;
+    for (const ControlTemplate& c : d.controls)
+        if (isLabel(c))
+            if (const ControlTemplate* field = fieldOf(d, c)) pairs.push_back({&c, field, boxAround(d, c)});
+    return pairs;
+}
+
+TEST(TemplateGrid, ListsShowWholeRows) {
+    std::vector<std::string> faults;
+    for (const std::string& name : resources().dialogNames()) {
+        const DialogTemplate& d = *resources().dialog(name);
+        for (const ControlTemplate& c : d.controls) {
+            if (c.kind != ControlKind::ListBox || !(c.style & kNoIntegralHeight) || c.isOwnerDraw()) continue;
+            if (c.h >= kOneRowList && !kvs::showsWholeRows(c.h)) faults.push_back(where(d, c) + " is " + std::to_string(c.h) + " high");
+        }
+    }
+    EXPECT_TRUE(faults.empty()) << faults.size() << " lists" << listed(faults);
+}
+
+// The search box takes its room from the source list in whole rows.
+TEST(TemplateGrid, SourceListsKeepWholeRowsUnderTheirSearchBox) {
+    kvs::installLibraryFamilies();
+    std::vector<std::string> faults;
+    for (const kvs::DispatchRow& row : kvs::dialogRows()) {
+        if (!row.behaviour || !row.templateName) continue;
+        const DialogTemplate* dialogTemplate = resources().dialog(row.templateName);
+        if (!dialogTemplate) continue;
+        kvs::headless::HeadlessDialog dialog(*dialogTemplate);
+        kvs::VariableCatalogue names;
+        kvs::SourceFilters filters;
+        filters.install(dialog, names, names);
+        for (const ControlTemplate& c : dialogTemplate->controls) {
+            if (c.kind != ControlKind::ListBox || !(c.style & kNoIntegralHeight) || c.h < kOneRowList) continue;
+            const int height = dialog.controlRect(c.id).height;
+            if (!kvs::showsWholeRows(height)) faults.push_back(where(*dialogTemplate, c) + " is " + std::to_string(height) + " high");
+        }
+    }
+    EXPECT_TRUE(faults.empty()) << listed(faults);
+}
+
+TEST(TemplateGrid, LabelsSitLevelWithTheirFields) {
+    std::vector<std::string> faults;
+    for (const std::string& name : resources().dialogNames()) {
+        const DialogTemplate& d = *resources().dialog(name);
+        for (const Pair& p : labelledFields(d)) {
+            const int drop = p.label->y - p.field->y;
+            if (drop != kvs::kGridLabelDrop && drop != kvs::kGridLabelDrop + 1)
+                faults.push_back(where(d, *p.label) + " is " + std::to_string(drop) + " below its field " +
+                                 std::to_string(p.field->id));
+        }
+    }
+    EXPECT_TRUE(faults.empty()) << faults.size() << " labels" << listed(faults);
+}
+
+// The field columns of a dialog: per group box (or none) and label column,
+// where the fields of those labels start.
+using Columns = std::map<std::pair<int, int>, std::vector<int>>;
+
+Columns fieldColumns(const DialogTemplate& d) {
+    Columns columns;
+    for (const Pair& p : labelledFields(d)) {
+        std::vector<int>& xs = columns[{p.box, p.label->x}];
+        if (std::find(xs.begin(), xs.end(), p.field->x) == xs.end()) xs.push_back(p.field->x);
+    }
+    return columns;
+}
+
+TEST(TemplateGrid, OneLabelColumnPutsItsFieldsInOneColumn) {
+    std::vector<std::string> faults;
+    for (const std::string& name : resources().dialogNames()) {
+        const DialogTemplate& d = *resources().dialog(name);
+        for (const auto& [key, xs] : fieldColumns(d)) {
+            if (xs.size() < 2) continue;
+            std::string columns;
+            for (int x : xs) columns += " " + std::to_string(x);
+            faults.push_back(d.name + ": labels at x " + std::to_string(key.second) + " put fields at" + columns);
+        }
+    }
+    EXPECT_TRUE(faults.empty()) << faults.size() << " dialogs" << listed(faults);
+}
+
+// Dialogs a user meets side by side, for the same kind of setting.
+const std::vector<std::vector<std::string>> kSisters = {
+    {"BARLABEL", "PYRAMIDLABEL", "SLICELABEL", "CASELABELS"},
+    {"BAROPTIONS", "DOTOPTIONS", "HISTOGRAMOPTIONS"},
+    {"REGRESSIONOPTIONS", "GLMOPTIONS", "LOGITOPTS", "DISCRIMOPTIONS"},
+    {"COLORCREATE", "COLORANDFILLCREATE"},
+    {"LINESTYLE", "SURFACELINESTYLE", "SYMBOLANDLABELCREATE"},
+};
+
+// The field column of the labels at the left margin, outside any box.
+std::optional<int> marginColumn(const DialogTemplate& d) {
+    for (const auto& [key, xs] : fieldColumns(d))
+        if (key.first < 0 && key.second == kvs::kGridMargin && !xs.empty()) return xs.front();
+    return std::nullopt;
+}
+
+TEST(TemplateGrid, SisterDialogsShareTheirFieldColumn) {
+    std::vector<std::string> faults;
+    for (const auto& sisters : kSisters) {
+        std::map<int, std::vector<std::string>> byColumn;
+        for (const std::string& name : sisters) {
+            const DialogTemplate* d = resources().dialog(name);
+            ASSERT_NE(d, nullptr) << name;
+            if (const std::optional<int> x = marginColumn(*d)) byColumn[*x].push_back(name);
+        }
+        if (byColumn.size() < 2) continue;
+        std::string all;
+        for (const auto& [x, names] : byColumn)
+            for (const std::string& n : names) all += " " + n + "@" + std::to_string(x);
+        faults.push_back(all);
+    }
+    EXPECT_TRUE(faults.empty()) << listed(faults);
+}
+
+}  // namespace
