@@ -1,6 +1,7 @@
 #include "core/dialog_resize.h"
 
 #include <algorithm>
+#include "core/dialog_grid.h"
 #include <cstddef>
 #include <cstdint>
 
@@ -32,6 +33,8 @@ struct Planner {
     int width, height;
     std::vector<std::size_t> box;   // the smallest box holding each item, or kNone
     std::vector<bool> stretches;    // an item, or a box holding one, that grows
+    std::vector<std::size_t> above; // the list an item sits just above, or kNone
+    std::vector<std::size_t> below; // the list an item sits just below, or kNone
     std::vector<bool> done;
     std::vector<DialogRect> result;
 
@@ -56,9 +59,20 @@ struct Planner {
             const DialogRect& from = items[holder].rect;
             const DialogRect& to = place(holder);
             next = {to.x + r.x - from.x, to.y + r.y - from.y, r.width, r.height};
+        } else if (const std::size_t list = above[i] != kNone ? above[i] : below[i]; list != kNone) {
+            const DialogRect& from = items[list].rect;
+            const DialogRect& to = place(list);
+            const int x = to.x + r.x - from.x;
+            const int w = r.right() == from.right() ? to.right() - x : r.width;
+            const int y = above[i] != kNone ? to.y - (from.y - r.y) : to.bottom() + (r.y - from.bottom());
+            next = {x, y, w, r.height};
         } else {
             const auto [x, w] = axis(r.x, r.width, stretches[i], original.width, width);
-            const auto [y, h] = axis(r.y, r.height, stretches[i], original.height, height);
+            auto [y, h] = axis(r.y, r.height, stretches[i], original.height, height);
+            if (items[i].kind == ResizeItem::Kind::List) {
+                // One-name lists keep their height; taller ones show whole rows.
+                h = r.height < kGridListRow * 2 + kGridListBorder ? r.height : std::max(wholeListRows(h), r.height);
+            }
             next = {x, y, w, h};
         }
         result[i] = next;
@@ -67,11 +81,18 @@ struct Planner {
     }
 };
 
+// Whether item sits next to list on the side given (above: its bottom over
+// the list's top), near enough and starting within its width.
+bool attached(const DialogRect& item, const DialogRect& list, bool over) {
+    const int gap = over ? list.y - item.bottom() : item.y - list.bottom();
+    return gap >= 0 && gap <= kAttachNear && item.x >= list.x - 2 && item.x < list.right() && item.right() <= list.right() + 2;
+}
+
 }  // namespace
 
 ResizeItem::Kind resizeKindOf(const ControlLayout& control) {
-    if (control.type == ControlType::ListBox || (control.type == ControlType::Edit && control.multiLine))
-        return ResizeItem::Kind::Stretch;
+    if (control.type == ControlType::ListBox) return ResizeItem::Kind::List;
+    if (control.type == ControlType::Edit && control.multiLine) return ResizeItem::Kind::Stretch;
     return control.type == ControlType::Button ? ResizeItem::Kind::Box : ResizeItem::Kind::Fixed;
 }
 
@@ -79,16 +100,28 @@ std::vector<DialogRect> resizedLayout(const std::vector<ResizeItem>& items, cons
                                       int height) {
     const std::size_t n = items.size();
     Planner plan{items, original, std::max(width, original.width), std::max(height, original.height),
-                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false), std::vector<bool>(n, false),
-                 std::vector<DialogRect>(n)};
+                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false), std::vector<std::size_t>(n, kNone),
+                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false), std::vector<DialogRect>(n)};
     for (std::size_t i = 0; i < n; ++i) {
         for (std::size_t b = 0; b < n; ++b) {
             if (items[b].kind != ResizeItem::Kind::Box || !holds(items[b].rect, items[i].rect)) continue;
             if (plan.box[i] == kNone || area(items[b].rect) < area(items[plan.box[i]].rect)) plan.box[i] = b;
         }
     }
+    std::vector<bool> holds(n, false);
+    for (std::size_t i = 0; i < n; ++i)
+        if (plan.box[i] != kNone) holds[plan.box[i]] = true;
     for (std::size_t i = 0; i < n; ++i) {
-        if (items[i].kind != ResizeItem::Kind::Stretch) continue;
+        const bool grows = items[i].kind == ResizeItem::Kind::Stretch || items[i].kind == ResizeItem::Kind::List;
+        if (grows || holds[i] || plan.box[i] != kNone) continue;
+        for (std::size_t l = 0; l < n; ++l) {
+            if (items[l].kind != ResizeItem::Kind::List || plan.box[l] != kNone) continue;
+            if (plan.above[i] == kNone && attached(items[i].rect, items[l].rect, true)) plan.above[i] = l;
+            if (plan.below[i] == kNone && attached(items[i].rect, items[l].rect, false)) plan.below[i] = l;
+        }
+    }
+    for (std::size_t i = 0; i < n; ++i) {
+        if (items[i].kind != ResizeItem::Kind::Stretch && items[i].kind != ResizeItem::Kind::List) continue;
         plan.stretches[i] = true;
         // Every box around a growing control grows too.
         for (std::size_t b = plan.box[i]; b != kNone; b = plan.box[b]) plan.stretches[b] = true;

@@ -2,7 +2,10 @@
 // size, from where they are at the size it opened with.
 //
 // Lists and multi-line edits grow in proportion to their size and move in
-// proportion to their position. Every other control keeps its size: one
+// proportion to their position; a list keeps to whole rows. A label just
+// above a list, or a control just below it (its search row, its Add button),
+// stays with it: the same distance from its edge, and as wide as the list
+// when it was. Every other control keeps its size: one
 // whose right edge is near the dialog's right edge (the OK/Cancel/Help
 // column) moves by the whole change of width, one whose bottom is near the
 // bottom by the whole change of height, and the rest move in proportion to
@@ -21,7 +24,8 @@ namespace kvs {
 struct ResizeItem {
     enum class Kind {
         Fixed,    // keeps its size
-        Stretch,  // a list box or a multi-line edit
+        Stretch,  // a multi-line edit
+        List,     // a list box: stretches, in whole rows
         Box,      // a button: a group box when it wholly holds other controls
     };
     DialogRect rect;
@@ -31,6 +35,8 @@ struct ResizeItem {
 // How close (dialog units) to the right or bottom edge a control keeps its
 // distance from that edge.
 inline constexpr int kEdgeNear = 10;
+// How close above or below a list a control stays with it.
+inline constexpr int kAttachNear = 4;
 
 // The rects of items (in their order) at a client area of width x height,
 // the items being laid out for original; a size smaller than original is

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "core/dialog_grid.h"
 #include "core/mnemonics.h"
 #include "core/variable_list.h"
 #include "resources/common_ids.h"
@@ -90,7 +91,9 @@ bool SourceFilter::install(DialogView& view, const VariableCatalogue* catalogue)
                                   {list.x, top + (kEditHeight - kLabelHeight) / 2, kLabelWidth, kLabelHeight}, listId_}) &&
                  view.addControl({AddedKind::Edit, boxId_, "", {boxLeft, top, list.right() - boxLeft, kEditHeight}, labelId_});
     if (!installed_) return false;
-    view.moveControl(listId_, {list.x, list.y, list.width, list.height - room});
+    // The search row keeps the list's old bottom, level with its neighbours;
+    // the list gives up whole rows for it.
+    view.moveControl(listId_, {list.x, list.y, list.width, wholeListRows(list.height - room)});
     view.limitText(boxId_, kLongestKey);
     return true;
 }

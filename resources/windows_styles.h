@@ -45,6 +45,7 @@
 #define SS_RIGHT            0x00000002L
 #define SS_BLACKFRAME       0x00000007L
 #define SS_OWNERDRAW        0x0000000DL
+#define SS_NOPREFIX         0x00000080L
 #define SS_SUNKEN           0x00001000L
 
 #define ES_LEFT             0x0000L

@@ -157,6 +157,30 @@ TEST(DialogResize, ABoxAroundAListGrowsWithIt) {
     EXPECT_EQ(after[3].right(), 385 - 7);
 }
 
+// A list keeps whole rows as it grows; its label and its search row stay
+// with it, the search row as wide as the list.
+TEST(DialogResize, AListShowsWholeRowsAndKeepsItsLabelAndSearchRow) {
+    const std::vector<ResizeItem> items = {
+        {{7, 7, 60, 8}, Kind::Fixed},      // label
+        {{7, 18, 90, 91}, Kind::List},     // 11 rows
+        {{7, 113, 36, 8}, Kind::Fixed},    // search label
+        {{45, 111, 52, 12}, Kind::Fixed},  // search box, to the list's right edge
+        {{103, 18, 24, 14}, Kind::Box},
+        {{200, 7, 50, 14}, Kind::Box},
+    };
+    const DialogRect client{0, 0, 257, 130};
+    for (const auto& [w, h] : {std::pair{300, 160}, std::pair{257, 131}, std::pair{500, 417}}) {
+        const auto after = kvs::resizedLayout(items, client, w, h);
+        const std::string what = std::to_string(w) + "x" + std::to_string(h);
+        expectKeptApartAndInside(items, client, after, w, h, what);
+        EXPECT_EQ((after[1].height - 3) % 8, 0) << what << " " << describe(after[1]);
+        EXPECT_EQ(after[1].y - after[0].bottom(), 3) << what;
+        EXPECT_EQ(after[3].y - after[1].bottom(), 2) << what;
+        EXPECT_EQ(after[3].right(), after[1].right()) << what;
+        EXPECT_EQ(after[2].y - after[3].y, 2) << what;
+    }
+}
+
 // The generic dialog over the real templates: a UI whose modal run opens
 // the template headlessly under the handler, lets the test act, and cancels.
 class ResizingUi : public kvs::testing::FakeUi {

@@ -58,7 +58,7 @@ char mnemonicOf(const std::string& text) {
 // adds when it opens (the command preview and the search boxes under its
 // source lists), carries a mnemonic of its own, so a user reaches each
 // control from the keyboard. OK and Cancel answer
-// Enter and Escape, group boxes take no focus, a text without a letter or a
+// Enter and Escape, group boxes and notes (SS_NOPREFIX) take no focus, a text without a letter or a
 // digit ("=") has nothing to mark, and the catalogue's "Add" 153 comes third
 // after two other "Add" buttons and is reached by Tab or a double click.
 TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
@@ -81,9 +81,10 @@ TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
             const bool button = control.kind == kvs::headless::ControlKind::Button;
             if (!button && control.kind != kvs::headless::ControlKind::Static) continue;
             const bool groupBox = button && (control.style & 0x0Fu) == 0x07u;
+            const bool note = !button && (control.style & 0x80u) != 0;  // SS_NOPREFIX: a note, not a label
             const bool noLetter = std::none_of(control.text.begin(), control.text.end(),
                                                [](char c) { return std::isalnum(static_cast<unsigned char>(c)); });
-            if (control.id == 1 || control.id == 2 || groupBox || noLetter || control.id == 153) continue;
+            if (control.id == 1 || control.id == 2 || groupBox || note || noLetter || control.id == 153) continue;
             const char letter = mnemonicOf(control.text);
             const std::string where = std::string(row.templateName) + ": \"" + control.text + "\"";
             if (!letter) faults.push_back(where + " has no mnemonic");
