@@ -148,7 +148,24 @@ void Tour::growByHalf(HWND dialog) {
     backend_.resizeDialog(MulDiv(client.right, 4 * 3, scale.right * 2), MulDiv(client.bottom, 8 * 3, scale.bottom * 2));
 }
 
-INT_PTR CALLBACK pictureProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
+// Checks the first button of every radio group, as each dialog's own logic
+// does when it opens, so a picture shows no group without a choice.
+BOOL CALLBACK checkFirstRadio(HWND control, LPARAM) {
+    char className[16] = {};
+    GetClassNameA(control, className, sizeof className);
+    if (_stricmp(className, "Button") != 0) return TRUE;
+    const LONG style = GetWindowLongA(control, GWL_STYLE);
+    const LONG type = style & BS_TYPEMASK;
+    if ((type == BS_AUTORADIOBUTTON || type == BS_RADIOBUTTON) && (style & WS_GROUP))
+        SendMessageA(control, BM_SETCHECK, BST_CHECKED, 0);
+    return TRUE;
+}
+
+INT_PTR CALLBACK pictureProcedure(HWND dialog, UINT message, WPARAM, LPARAM) {
+    if (message != WM_INITDIALOG) return FALSE;
+    EnumChildWindows(dialog, checkFirstRadio, 0);
+    return TRUE;
+}
 
 // Templates no StartDialog opens by itself: shown modeless under a procedure
 // that does nothing, just for their pictures.
