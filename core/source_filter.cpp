@@ -85,15 +85,16 @@ bool SourceFilter::install(DialogView& view, const VariableCatalogue* catalogue)
     const DialogRect list = view.controlRect(listId_);
     const int room = kGap + kEditHeight;
     if (list.width < kNarrowestList || list.height < kShortestList + room) return false;
-    const int top = list.bottom() - kEditHeight;
+    // The list gives up whole rows for the search row, which sits just under
+    // it, so the row stays with the list when the dialog is resized.
+    const int listHeight = wholeListRows(list.height - room);
+    const int top = list.y + listHeight + kGap;
     const int boxLeft = list.x + kLabelWidth + kGap;
     installed_ = view.addControl({AddedKind::Label, labelId_, withFreeMnemonic(view, kLabel),
                                   {list.x, top + (kEditHeight - kLabelHeight) / 2, kLabelWidth, kLabelHeight}, listId_}) &&
                  view.addControl({AddedKind::Edit, boxId_, "", {boxLeft, top, list.right() - boxLeft, kEditHeight}, labelId_});
     if (!installed_) return false;
-    // The search row keeps the list's old bottom, level with its neighbours;
-    // the list gives up whole rows for it.
-    view.moveControl(listId_, {list.x, list.y, list.width, wholeListRows(list.height - room)});
+    view.moveControl(listId_, {list.x, list.y, list.width, listHeight});
     view.limitText(boxId_, kLongestKey);
     return true;
 }
