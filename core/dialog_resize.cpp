@@ -1,9 +1,10 @@
 #include "core/dialog_resize.h"
 
 #include <algorithm>
-#include "core/dialog_grid.h"
 #include <cstddef>
 #include <cstdint>
+
+#include "core/dialog_grid.h"
 
 namespace kvs {
 
@@ -108,12 +109,12 @@ std::vector<DialogRect> resizedLayout(const std::vector<ResizeItem>& items, cons
             if (plan.box[i] == kNone || area(items[b].rect) < area(items[plan.box[i]].rect)) plan.box[i] = b;
         }
     }
-    std::vector<bool> holds(n, false);
+    std::vector<bool> holdsOthers(n, false);
     for (std::size_t i = 0; i < n; ++i)
-        if (plan.box[i] != kNone) holds[plan.box[i]] = true;
+        if (plan.box[i] != kNone) holdsOthers[plan.box[i]] = true;
     for (std::size_t i = 0; i < n; ++i) {
         const bool grows = items[i].kind == ResizeItem::Kind::Stretch || items[i].kind == ResizeItem::Kind::List;
-        if (grows || holds[i] || plan.box[i] != kNone) continue;
+        if (grows || holdsOthers[i] || plan.box[i] != kNone) continue;
         for (std::size_t l = 0; l < n; ++l) {
             if (items[l].kind != ResizeItem::Kind::List || plan.box[l] != kNone) continue;
             if (plan.above[i] == kNone && attached(items[i].rect, items[l].rect, true)) plan.above[i] = l;
