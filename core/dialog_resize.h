@@ -36,7 +36,7 @@ struct ResizeItem {
 // distance from that edge.
 inline constexpr int kEdgeNear = 10;
 // How close above or below a list a control stays with it.
-inline constexpr int kAttachNear = 4;
+inline constexpr int kAttachNear = 6;
 
 // The rects of items (in their order) at a client area of width x height,
 // the items being laid out for original; a size smaller than original is

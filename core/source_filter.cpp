@@ -16,7 +16,7 @@ constexpr std::string_view kLabel = "Quick find:";
 constexpr int kLabelWidth = 36;
 constexpr int kLabelHeight = 8;
 constexpr int kEditHeight = 12;
-constexpr int kGap = 2;
+constexpr int kGap = 4;  // with the field, a room of two whole rows: the row ends where the list did
 constexpr int kShortestList = 36;  // what a list keeps at the least: three or four names
 constexpr int kNarrowestList = 70;  // the label and room for a few letters
 constexpr std::size_t kLongestKey = 64;
@@ -89,7 +89,7 @@ bool SourceFilter::install(DialogView& view, const VariableCatalogue* catalogue)
     // it, so the row stays with the list when the dialog is resized.
     const int listHeight = wholeListRows(list.height - room);
     const int top = list.y + listHeight + kGap;
-    const int boxLeft = list.x + kLabelWidth + kGap;
+    const int boxLeft = list.x + kLabelWidth + 2;
     installed_ = view.addControl({AddedKind::Label, labelId_, withFreeMnemonic(view, kLabel),
                                   {list.x, top + (kEditHeight - kLabelHeight) / 2, kLabelWidth, kLabelHeight}, listId_}) &&
                  view.addControl({AddedKind::Edit, boxId_, "", {boxLeft, top, list.right() - boxLeft, kEditHeight}, labelId_});

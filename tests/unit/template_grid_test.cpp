@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 #include <optional>
 #include <string>
@@ -16,6 +17,7 @@
 #include "families/library.h"
 #include "headless/headless_dialog.h"
 #include "headless/rc_template.h"
+#include "resources/common_ids.h"
 #include "tests/unit/library_resources.h"
 
 namespace {
@@ -102,8 +104,9 @@ TEST(TemplateGrid, ListsShowWholeRows) {
     EXPECT_TRUE(faults.empty()) << faults.size() << " lists" << listed(faults);
 }
 
-// The search box takes its room from the source list in whole rows.
-TEST(TemplateGrid, SourceListsKeepWholeRowsUnderTheirSearchBox) {
+// The search box takes its room from the source list in whole rows, and its
+// row ends level with the lists beside it.
+TEST(TemplateGrid, SourceListsKeepWholeRowsAndEndLevelWithTheirNeighbours) {
     kvs::installLibraryFamilies();
     std::vector<std::string> faults;
     for (const kvs::DispatchRow& row : kvs::dialogRows()) {
@@ -114,11 +117,21 @@ TEST(TemplateGrid, SourceListsKeepWholeRowsUnderTheirSearchBox) {
         kvs::VariableCatalogue names;
         kvs::SourceFilters filters;
         filters.install(dialog, names, names);
+        std::map<int, int> columnBottoms;  // the lowest list bottom at each x right of the source list
+        const kvs::DialogRect source = dialog.controlRect(IDC_SOURCE);
         for (const ControlTemplate& c : dialogTemplate->controls) {
-            if (c.kind != ControlKind::ListBox || !(c.style & kNoIntegralHeight) || c.h < kOneRowList) continue;
+            if (c.kind != ControlKind::ListBox) continue;
+            if (c.x > source.right()) columnBottoms[c.x] = std::max(columnBottoms[c.x], c.y + c.h);
+            if (!(c.style & kNoIntegralHeight) || c.h < kOneRowList) continue;
             const int height = dialog.controlRect(c.id).height;
             if (!kvs::showsWholeRows(height)) faults.push_back(where(*dialogTemplate, c) + " is " + std::to_string(height) + " high");
         }
+        // The search row ends level with a list beside it that ends near it.
+        const int rowBottom = dialog.has(IDC_SOURCE_FILTER) ? dialog.controlRect(IDC_SOURCE_FILTER).bottom() : 0;
+        for (const auto& [x, bottom] : columnBottoms)
+            if (rowBottom && bottom != rowBottom && std::abs(bottom - rowBottom) <= 6)
+                faults.push_back(std::string(row.templateName) + ": the list at x " + std::to_string(x) + " ends at " +
+                                 std::to_string(bottom) + ", the search row at " + std::to_string(rowBottom));
     }
     EXPECT_TRUE(faults.empty()) << listed(faults);
 }
