@@ -1,15 +1,22 @@
 #include "win32/colour_grid_window.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
 #include "graph/colour_grid.h"
 #include "include/kvs_imports.h"
+#include "win32/dpi_scale.h"
 #include "win32/palette_sweep.h"
 
 namespace kvs::win32 {
 
 namespace {
+
+// The framed cell's frame, in pixels at 96 DPI; never wider than the gap
+// between two cells, so it covers no neighbour.
+constexpr int kFrameWidth = 2;
+constexpr int kCellGap = 3;
 
 // The framed cell: the window text read as an index, -1 when it is none.
 int framedCell(HWND grid) {
@@ -60,8 +67,10 @@ void paint(HWND grid) {
         const int framed = framedCell(grid);
         if (framed >= 0) {
             const graph::CellRect r = graph::cellRect(framed, size);
-            HBRUSH ink = GetSysColorBrush(COLOR_WINDOWTEXT);
-            for (int inset = 1; inset <= 2; ++inset) {
+            // The chosen cell is marked in the system's selection colour.
+            HBRUSH ink = GetSysColorBrush(COLOR_HIGHLIGHT);
+            const int width = std::min(scaledLength(kFrameWidth, windowDpi(grid)), kCellGap);
+            for (int inset = 1; inset <= width; ++inset) {
                 const RECT frame{r.left - inset, r.top - inset, r.right + inset, r.bottom + inset};
                 FrameRect(dc, &frame, ink);
             }
@@ -83,6 +92,9 @@ LRESULT CALLBACK gridProcedure(HWND grid, UINT message, WPARAM wParam, LPARAM lP
         SendMessageA(GetParent(grid), kColourGridClick, static_cast<WPARAM>(GetDlgCtrlID(grid)), lParam);
         return 0;
     case WM_GETDLGCODE: return DLGC_STATIC;
+    case WM_DPICHANGED_AFTERPARENT:
+    case WM_THEMECHANGED:
+    case WM_SYSCOLORCHANGE: InvalidateRect(grid, nullptr, TRUE); return 0;
     default: return DefWindowProcA(grid, message, wParam, lParam);
     }
 }

@@ -112,13 +112,22 @@ void Win32DialogView::makeResizable(int minWidth, int minHeight) {
     const auto style = static_cast<DWORD>(GetWindowLongPtrA(dialog_, GWL_STYLE) | WS_THICKFRAME);
     const auto exStyle = static_cast<DWORD>(GetWindowLongPtrA(dialog_, GWL_EXSTYLE));
     SetWindowLongPtrA(dialog_, GWL_STYLE, static_cast<LONG_PTR>(style));
-    RECT smallest = toPixels(dialog_, {0, 0, minWidth, minHeight});
-    AdjustWindowRectEx(&smallest, style, FALSE, exStyle);
-    minTrack_ = {smallest.right - smallest.left, smallest.bottom - smallest.top};
+    minUnits_ = {minWidth, minHeight};
+    resizable_ = true;
+    refreshMinimumTrack();
     RECT frame = client;
     AdjustWindowRectEx(&frame, style, FALSE, exStyle);
     SetWindowPos(dialog_, nullptr, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+}
+
+void Win32DialogView::refreshMinimumTrack() {
+    if (!resizable_) return;
+    const auto style = static_cast<DWORD>(GetWindowLongPtrA(dialog_, GWL_STYLE));
+    const auto exStyle = static_cast<DWORD>(GetWindowLongPtrA(dialog_, GWL_EXSTYLE));
+    RECT smallest = toPixels(dialog_, {0, 0, minUnits_.cx, minUnits_.cy});
+    AdjustWindowRectEx(&smallest, style, FALSE, exStyle);
+    minTrack_ = {smallest.right - smallest.left, smallest.bottom - smallest.top};
 }
 
 void Win32DialogView::growClient(int width, int height) {

@@ -3,6 +3,7 @@
 #include "resources/common_ids.h"
 #include "win32/colour_grid_window.h"
 #include "win32/dialog_sizing.h"
+#include "win32/dpi_scale.h"
 #include "win32/list_drag.h"
 #include "win32/module_instance.h"
 #include "win32/owner_drawn_button.h"
@@ -13,6 +14,10 @@ namespace kvs::win32 {
 namespace {
 
 HWND activeDialog = nullptr;
+
+// Posted to a dialog by its WM_DPICHANGED, so that what follows the change
+// runs once the dialog manager has scaled the dialog's font and controls.
+constexpr UINT kAfterDpiChange = WM_APP + 0x4B2;
 
 struct HelpMenuItem {
     UINT id;
@@ -59,7 +64,7 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     }
     // Entry heights are asked before WM_INITDIALOG.
     if (message == WM_MEASUREITEM)
-        return lParam && measurePictureItem(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
+        return lParam && measurePictureItem(dialog, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)) ? TRUE : FALSE;
     DialogSession* session = sessionOf(dialog);
     if (!session || !session->view) return FALSE;
     Win32DialogView& view = *session->view;
@@ -94,6 +99,23 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         session->handler->onClick(view, static_cast<int>(wParam), at.x, at.y, client.right, client.bottom);
         return TRUE;
     }
+    case WM_DPICHANGED:
+        // The dialog manager goes on to scale the font and the controls.
+        followDpiChange(dialog, lParam);
+        PostMessageA(dialog, kAfterDpiChange, 0, 0);
+        return FALSE;
+    case kAfterDpiChange:
+        // The entries of the picture lists, the smallest size and the
+        // layout of a resizable dialog, at the new scale.
+        remeasurePictureLists(dialog);
+        view.refreshMinimumTrack();
+        forwardSize(view, *session->handler, IsIconic(dialog) ? SIZE_MINIMIZED : SIZE_RESTORED);
+        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return TRUE;
+    case WM_THEMECHANGED:
+        // The owner-drawn controls open the theme as they paint.
+        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return FALSE;
     case WM_DESTROY:
         activeDialog = session->previousActive;
         return FALSE;

@@ -58,6 +58,65 @@ DPI_AWARENESS_CONTEXT setThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT context
     return function ? function(context) : nullptr;
 }
 
+UINT dpiForWindow(HWND window) {
+    using Function = UINT(WINAPI*)(HWND);
+    static const auto function = resolve<Function>(user32(), "GetDpiForWindow");
+    return function && window ? function(window) : 0;
+}
+
+namespace {
+
+HMODULE uxtheme() {
+    static const HMODULE module = loaded(L"uxtheme.dll");
+    return module;
+}
+
+}  // namespace
+
+bool themesActive() {
+    using Function = BOOL(WINAPI*)();
+    static const auto themeActive = resolve<Function>(uxtheme(), "IsThemeActive");
+    static const auto appThemed = resolve<Function>(uxtheme(), "IsAppThemed");
+    return themeActive && appThemed && themeActive() && appThemed();
+}
+
+HTHEME openThemeData(HWND window, const wchar_t* classList) {
+    using Function = HTHEME(WINAPI*)(HWND, LPCWSTR);
+    static const auto function = resolve<Function>(uxtheme(), "OpenThemeData");
+    return function ? function(window, classList) : nullptr;
+}
+
+void closeThemeData(HTHEME theme) {
+    using Function = HRESULT(WINAPI*)(HTHEME);
+    static const auto function = resolve<Function>(uxtheme(), "CloseThemeData");
+    if (function && theme) function(theme);
+}
+
+HRESULT drawThemeBackground(HTHEME theme, HDC dc, int part, int state, const RECT& rect) {
+    using Function = HRESULT(WINAPI*)(HTHEME, HDC, int, int, const RECT*, const RECT*);
+    static const auto function = resolve<Function>(uxtheme(), "DrawThemeBackground");
+    return function ? function(theme, dc, part, state, &rect, nullptr) : E_NOTIMPL;
+}
+
+HRESULT drawThemeText(HTHEME theme, HDC dc, int part, int state, const wchar_t* text, int length, DWORD flags,
+                      const RECT& rect) {
+    using Function = HRESULT(WINAPI*)(HTHEME, HDC, int, int, LPCWSTR, int, DWORD, DWORD, const RECT*);
+    static const auto function = resolve<Function>(uxtheme(), "DrawThemeText");
+    return function ? function(theme, dc, part, state, text, length, flags, 0, &rect) : E_NOTIMPL;
+}
+
+bool themeBackgroundPartiallyTransparent(HTHEME theme, int part, int state) {
+    using Function = BOOL(WINAPI*)(HTHEME, int, int);
+    static const auto function = resolve<Function>(uxtheme(), "IsThemeBackgroundPartiallyTransparent");
+    return function && function(theme, part, state);
+}
+
+HRESULT drawThemeParentBackground(HWND window, HDC dc, const RECT& rect) {
+    using Function = HRESULT(WINAPI*)(HWND, HDC, const RECT*);
+    static const auto function = resolve<Function>(uxtheme(), "DrawThemeParentBackground");
+    return function ? function(window, dc, &rect) : E_NOTIMPL;
+}
+
 bool htmlHelp(HWND owner, const char* file, UINT command, DWORD_PTR data) {
     using Function = HWND(WINAPI*)(HWND, LPCSTR, UINT, DWORD_PTR);
     static const auto function = resolve<Function>(loaded(L"hhctrl.ocx"), "HtmlHelpA");

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <windows.h>
+#include <uxtheme.h>
 
 namespace kvs::win32 {
 
@@ -20,6 +21,21 @@ void destroyCursor(HCURSOR cursor);
 // SetThreadDpiAwarenessContext (Windows 10 1607 and later): the previous
 // context, or null when Windows lacks it (nothing changes then).
 DPI_AWARENESS_CONTEXT setThreadDpiAwarenessContext(DPI_AWARENESS_CONTEXT context);
+
+// GetDpiForWindow (Windows 10 1607 and later): 0 when Windows lacks it.
+UINT dpiForWindow(HWND window);
+
+// uxtheme.dll, loaded on first use and kept. Without it themes count as off,
+// openThemeData gives null and the drawing calls answer E_NOTIMPL, so every
+// caller keeps a classic drawing to fall back on.
+bool themesActive();  // IsThemeActive and IsAppThemed
+HTHEME openThemeData(HWND window, const wchar_t* classList);
+void closeThemeData(HTHEME theme);
+HRESULT drawThemeBackground(HTHEME theme, HDC dc, int part, int state, const RECT& rect);
+HRESULT drawThemeText(HTHEME theme, HDC dc, int part, int state, const wchar_t* text, int length, DWORD flags,
+                      const RECT& rect);
+bool themeBackgroundPartiallyTransparent(HTHEME theme, int part, int state);
+HRESULT drawThemeParentBackground(HWND window, HDC dc, const RECT& rect);
 
 // HtmlHelpA of hhctrl.ocx, loaded on first use and kept: false when HTML
 // Help is missing, so the caller can fall back to WinHelp.

@@ -8,6 +8,7 @@
 
 #include "include/kvs_dlg.h"
 #include "resources/progress_ids.h"
+#include "win32/dpi_scale.h"
 #include "win32/module_instance.h"
 #include "win32/win32_dialog_view.h"
 
@@ -108,6 +109,14 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         return FALSE;
     case WM_USER: return userRequest(dialog, wParam, lParam);
     case WM_DRAWITEM: return lParam ? drawBarItem(dialog, *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)) : FALSE;
+    case WM_DPICHANGED:
+        // The dialog manager goes on to scale the font and the controls.
+        followDpiChange(dialog, lParam);
+        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return FALSE;
+    case WM_THEMECHANGED:
+        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return FALSE;
     case WM_DESTROY:
         if (session.window == dialog) session.window = nullptr;
         return FALSE;

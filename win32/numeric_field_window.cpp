@@ -5,8 +5,10 @@
 #include <new>
 
 #include "win32/control_reading.h"
+#include "win32/dpi_scale.h"
 #include "win32/microscroll.h"
 #include "win32/module_instance.h"
+#include "win32/theme_parts.h"
 #include "win32/win32_dialog_view.h"
 
 namespace kvs::win32 {
@@ -228,18 +230,31 @@ void stepOnce(HWND window, UpDownState& state) {
     if (edit && GetFocus() == edit) rememberFocusText(windowText(edit));
 }
 
+// The theme's spin arrows where a theme is on, the classic scroll arrows
+// otherwise.
+int themedArrowState(int arrow, bool enabled, bool pushed) {
+    if (arrow == kStepUp) return !enabled ? UPS_DISABLED : pushed ? UPS_PRESSED : UPS_NORMAL;
+    return !enabled ? DNS_DISABLED : pushed ? DNS_PRESSED : DNS_NORMAL;
+}
+
 void paintUpDown(HWND window) {
     PAINTSTRUCT paint;
     HDC dc = BeginPaint(window, &paint);
     if (!dc) return;
-    auto brush = reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND));
+    const ThemePart theme(window, L"SPIN");
+    auto brush = theme ? GetSysColorBrush(COLOR_BTNFACE)
+                       : reinterpret_cast<HBRUSH>(GetClassLongPtrA(window, GCLP_HBRBACKGROUND));
     if (brush) FillRect(dc, &paint.rcPaint, brush);
     const UpDownState* state = stateOf(window);
-    const UINT inactive = IsWindowEnabled(window) ? 0 : DFCS_INACTIVE;
+    const bool enabled = IsWindowEnabled(window) != FALSE;
     for (int arrow : {kStepUp, kStepDown}) {
         RECT r = arrowRect(window, arrow);
-        UINT kind = (arrow == kStepUp ? DFCS_SCROLLUP : DFCS_SCROLLDOWN) | inactive;
-        if (state && state->pressed == arrow && state->over) kind |= DFCS_PUSHED;
+        const bool pushed = state && state->pressed == arrow && state->over;
+        if (theme && theme.drawBackground(dc, arrow == kStepUp ? SPNP_UP : SPNP_DOWN,
+                                          themedArrowState(arrow, enabled, pushed), r))
+            continue;
+        UINT kind = (arrow == kStepUp ? DFCS_SCROLLUP : DFCS_SCROLLDOWN) | (enabled ? 0 : DFCS_INACTIVE);
+        if (pushed) kind |= DFCS_PUSHED;
         DrawFrameControl(dc, &r, DFC_SCROLL, kind);
     }
     EndPaint(window, &paint);
@@ -250,6 +265,8 @@ LRESULT handleUpDown(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_PAINT: paintUpDown(window); return 0;
     case WM_ERASEBKGND: return 1;
+    case WM_THEMECHANGED:
+    case WM_DPICHANGED_AFTERPARENT: InvalidateRect(window, nullptr, FALSE); return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK: {
         if (!state) return 0;
@@ -332,7 +349,8 @@ HWND createUpDown(HWND dialog, int editId, NumericField& field, std::int32_t not
     GetWindowRect(edit, &r);
     MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);
     const std::string text = upDownText(1, upDownPositions(field), upDownPosition(field));
-    const HWND upDown = CreateWindowExA(0, kMicroscrollClass, text.c_str(), kUpDownStyle, r.right, r.top, kUpDownWidth,
+    const int width = scaledLength(kUpDownWidth, windowDpi(dialog));
+    const HWND upDown = CreateWindowExA(0, kMicroscrollClass, text.c_str(), kUpDownStyle, r.right, r.top, width,
                                         r.bottom - r.top, dialog, nullptr, moduleInstance(), nullptr);
     if (!upDown) return nullptr;
     auto* state = new (std::nothrow) UpDownState;

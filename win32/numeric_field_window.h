@@ -20,7 +20,7 @@ inline constexpr UINT kDeferredFieldError = WM_USER + 50;
 inline constexpr UINT_PTR kUpTimer = 500;
 inline constexpr UINT_PTR kDownTimer = 501;
 inline constexpr DWORD kUpDownStyle = 0x5000001D;  // child, visible
-inline constexpr int kUpDownWidth = 15;
+inline constexpr int kUpDownWidth = 15;  // pixels at 96 DPI, scaled to the monitor
 
 // Subclasses the edit control field.controlId of dialog. field.dialog,
 // field.edit are filled in; field must outlive the edit window. False when

@@ -1,5 +1,7 @@
-// The face of an owner-drawn push button: a plain 3D button with its text,
-// pushed in while pressed, greyed when disabled, with a focus rectangle.
+// The face of an owner-drawn push button: the theme's push button where a
+// theme is on, a plain 3D button otherwise, with its text, pushed in while
+// pressed, greyed when disabled, with a focus rectangle inset at the
+// monitor's scale.
 #pragma once
 
 #include <windows.h>

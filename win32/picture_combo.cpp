@@ -6,6 +6,7 @@
 #include <string>
 
 #include "resources/graph_ids.h"
+#include "win32/dpi_scale.h"
 
 namespace kvs::win32 {
 
@@ -14,8 +15,13 @@ namespace {
 struct PictureList {
     int id;
     const char* prefix;  // the bitmap resources are prefix1, prefix2, ...
-    int height;          // of an entry, in pixels
+    int height;          // of an entry, in pixels at 96 DPI
 };
+
+// Margins around the picture, in pixels at 96 DPI.
+constexpr int kPictureLeft = 3;
+constexpr int kPictureGap = 6;
+constexpr int kPictureRoom = 2;
 
 constexpr PictureList kPictureLists[] = {
     {IDC_SYMBOL_1, "symbol", 20},        {IDC_SYMBOL_2, "symbol", 20},        {IDC_SYMBOL_3, "symbol", 20},
@@ -42,19 +48,33 @@ HBITMAP picture(HMODULE module, const char* prefix, UINT position) {
 
 }  // namespace
 
-bool measurePictureItem(MEASUREITEMSTRUCT& item) {
+bool measurePictureItem(HWND dialog, MEASUREITEMSTRUCT& item) {
     if (item.CtlType != ODT_COMBOBOX) return false;
     const PictureList* list = pictureList(item.CtlID);
     if (!list) return false;
-    item.itemHeight = static_cast<UINT>(list->height);
+    item.itemHeight = static_cast<UINT>(scaledLength(list->height, windowDpi(dialog)));
     return true;
+}
+
+void remeasurePictureLists(HWND dialog) {
+    const UINT dpi = windowDpi(dialog);
+    for (const PictureList& list : kPictureLists) {
+        const HWND combo = GetDlgItem(dialog, list.id);
+        if (!combo) continue;
+        const auto height = static_cast<LPARAM>(scaledLength(list.height, dpi));
+        // -1 is the closed list's field, 0 every entry of a fixed-height list.
+        SendMessageA(combo, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
+        SendMessageA(combo, CB_SETITEMHEIGHT, 0, height);
+    }
 }
 
 bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item) {
     if (item.CtlType != ODT_COMBOBOX || !item.hDC) return false;
     const PictureList* list = pictureList(item.CtlID);
     if (!list) return false;
-    const bool selected = (item.itemState & ODS_SELECTED) != 0;
+    const bool disabled = (item.itemState & ODS_DISABLED) != 0;
+    const bool selected = (item.itemState & ODS_SELECTED) != 0 && !disabled;
+    const UINT dpi = windowDpi(item.hwndItem);
     RECT area = item.rcItem;
     FillRect(item.hDC, &area, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     if (item.itemID == static_cast<UINT>(-1)) return true;
@@ -62,32 +82,34 @@ bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item) {
     const LRESULT length = SendMessageA(item.hwndItem, CB_GETLBTEXTLEN, item.itemID, 0);
     if (length >= 0 && length < static_cast<LRESULT>(sizeof text))
         SendMessageA(item.hwndItem, CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text));
-    int x = area.left + 3;
+    int x = area.left + scaledLength(kPictureLeft, dpi);
     if (item.itemID > 0) {
         if (const HBITMAP bitmap = picture(module, list->prefix, item.itemID)) {
             BITMAP size{};
             GetObjectA(bitmap, sizeof size, &size);
             if (const HDC memory = CreateCompatibleDC(item.hDC)) {
-                // The closed list's field is lower than a list entry: there
-                // the picture is shrunk to fit, keeping its proportions.
-                const int room = std::max<int>(area.bottom - area.top - 2, 1);
-                const int height = std::min<int>(size.bmHeight, room);
-                const int width = size.bmHeight > 0 ? size.bmWidth * height / size.bmHeight : 0;
+                // Drawn at the monitor's scale; where the closed list's field
+                // is lower than a list entry the picture is shrunk to fit,
+                // keeping its proportions.
+                const int room = std::max<int>(area.bottom - area.top - scaledLength(kPictureRoom, dpi), 1);
+                const int height = std::min<int>(scaledLength(size.bmHeight, dpi), room);
+                const int width = size.bmHeight > 0 ? MulDiv(size.bmWidth, height, size.bmHeight) : 0;
                 const HGDIOBJ old = SelectObject(memory, bitmap);
                 const int top = area.top + (area.bottom - area.top - height) / 2;
                 SetStretchBltMode(item.hDC, HALFTONE);
                 StretchBlt(item.hDC, x, top, width, height, memory, 0, 0, size.bmWidth, size.bmHeight, SRCCOPY);
                 SelectObject(memory, old);
                 DeleteDC(memory);
-                x += width + 6;
+                x += width + scaledLength(kPictureGap, dpi);
             }
         }
     }
     SetBkMode(item.hDC, TRANSPARENT);
-    SetTextColor(item.hDC, GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    SetTextColor(item.hDC,
+                 GetSysColor(disabled ? COLOR_GRAYTEXT : selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     RECT textArea{x, area.top, area.right, area.bottom};
     DrawTextA(item.hDC, text, -1, &textArea, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-    if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &area);
+    if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT)) DrawFocusRect(item.hDC, &area);
     return true;
 }
 

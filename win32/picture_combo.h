@@ -8,10 +8,15 @@
 
 namespace kvs::win32 {
 
-// The height of an entry of a picture list; false for other controls.
-bool measurePictureItem(MEASUREITEMSTRUCT& item);
-// Draws an entry: its picture (position p shows picture p of the set; the
-// first entry, "None" or "Automatic", has none) and its text.
+// The height of an entry of a picture list at the scale of dialog's
+// monitor; false for other controls.
+bool measurePictureItem(HWND dialog, MEASUREITEMSTRUCT& item);
+// Gives the picture lists of dialog the entry height of its monitor's scale
+// now (after a move to a monitor of another scale).
+void remeasurePictureLists(HWND dialog);
+// Draws an entry: its picture at the monitor's scale (position p shows
+// picture p of the set; the first entry, "None" or "Automatic", has none)
+// and its text, selected in the system's highlight colours.
 bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item);
 
 }  // namespace kvs::win32

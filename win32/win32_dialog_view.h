@@ -65,6 +65,9 @@ public:
     // The smallest window size in pixels the user may drag the dialog to;
     // 0 x 0 until makeResizable.
     SIZE minimumTrackSize() const { return minTrack_; }
+    // Works the smallest size out again from its dialog units, after the
+    // dialog's font (and so its units) changed with the monitor's scale.
+    void refreshMinimumTrack();
 
     void setCaption(std::string_view text) override;
     void centre() override;
@@ -76,6 +79,8 @@ private:
 
     HWND dialog_;
     SIZE minTrack_{0, 0};
+    SIZE minUnits_{0, 0};  // the smallest client area, in dialog units
+    bool resizable_ = false;
     mutable std::unordered_map<int, HWND> controls_;
     // textsRead_ holds a list's texts as read last until the view changes
     // that list: the library's lists change only through the view, and OK

@@ -8,8 +8,22 @@ namespace kvs::standin {
 namespace {
 
 constexpr char kClassName[] = "KvsStandinPictureBoard";
+// Pixels at 96 DPI; the board is drawn at the screen's scale, as the
+// library's lists draw the same pictures.
 constexpr int kMargin = 10;
 constexpr int kGap = 8;
+constexpr int kRowGap = 12;
+constexpr int kWidth = 560, kHeight = 320;
+constexpr int kAxesPerRow = 8;  // so that at 150 % the board still fits a 1024-pixel screen
+
+int screenDpi() {
+    const HDC screen = GetDC(nullptr);
+    const int dpi = screen ? GetDeviceCaps(screen, LOGPIXELSY) : 96;
+    if (screen) ReleaseDC(nullptr, screen);
+    return dpi > 0 ? dpi : 96;
+}
+
+int scaled(int pixels, int dpi) { return MulDiv(pixels, dpi, 96); }
 
 struct Board {
     HMODULE library = nullptr;
@@ -25,22 +39,24 @@ SIZE sizeOf(HBITMAP bitmap) {
 }
 
 // Draws a row of pictures from x, y; returns the height used.
-int drawRow(HDC dc, HDC memory, const HBITMAP* bitmaps, int count, int y, int perRow) {
-    int x = kMargin, tallest = 0, inRow = 0, top = y;
+int drawRow(HDC dc, HDC memory, const HBITMAP* bitmaps, int count, int y, int perRow, int dpi) {
+    const int margin = scaled(kMargin, dpi), gap = scaled(kGap, dpi);
+    int x = margin, tallest = 0, inRow = 0, top = y;
     for (int i = 0; i < count; ++i) {
-        const SIZE size = sizeOf(bitmaps[i]);
+        const SIZE bitmap = sizeOf(bitmaps[i]);
+        const SIZE size{scaled(bitmap.cx, dpi), scaled(bitmap.cy, dpi)};
         if (inRow == perRow) {
-            y += tallest + kGap;
-            x = kMargin;
+            y += tallest + gap;
+            x = margin;
             tallest = 0;
             inRow = 0;
         }
         if (bitmaps[i]) {
             const HGDIOBJ previous = SelectObject(memory, bitmaps[i]);
-            BitBlt(dc, x, y, size.cx, size.cy, memory, 0, 0, SRCCOPY);
+            StretchBlt(dc, x, y, size.cx, size.cy, memory, 0, 0, bitmap.cx, bitmap.cy, SRCCOPY);
             SelectObject(memory, previous);
         }
-        x += size.cx + kGap;
+        x += size.cx + gap;
         if (size.cy > tallest) tallest = size.cy;
         ++inRow;
     }
@@ -52,19 +68,25 @@ void paint(HWND window, const Board& board) {
     const HDC dc = BeginPaint(window, &ps);
     const HDC memory = CreateCompatibleDC(dc);
     SetBkMode(dc, TRANSPARENT);
-    int y = kMargin;
+    SetStretchBltMode(dc, HALFTONE);
+    const int dpi = screenDpi();
+    TEXTMETRICA metrics{};
+    GetTextMetricsA(dc, &metrics);
+    const int headingHeight = metrics.tmHeight + scaled(4, dpi);
+    const int rowGap = scaled(kRowGap, dpi);
+    int y = scaled(kMargin, dpi);
     const auto heading = [&](const char* text) {
-        TextOutA(dc, kMargin, y, text, static_cast<int>(std::char_traits<char>::length(text)));
-        y += 18;
+        TextOutA(dc, scaled(kMargin, dpi), y, text, static_cast<int>(std::char_traits<char>::length(text)));
+        y += headingHeight;
     };
     heading("Plot symbols (LoadSymbolBitmapsEx)");
-    y += drawRow(dc, memory, board.symbols.data(), static_cast<int>(board.symbols.size()), y, 22) + 12;
+    y += drawRow(dc, memory, board.symbols.data(), static_cast<int>(board.symbols.size()), y, 22, dpi) + rowGap;
     heading("Line styles");
-    y += drawRow(dc, memory, board.owned.data(), board.dashes, y, 6) + 12;
+    y += drawRow(dc, memory, board.owned.data(), board.dashes, y, 6, dpi) + rowGap;
     heading("Axis styles, two- and three-dimensional");
-    y += drawRow(dc, memory, board.owned.data() + board.dashes, board.axes2d, y, 12) + kGap;
+    y += drawRow(dc, memory, board.owned.data() + board.dashes, board.axes2d, y, kAxesPerRow, dpi) + scaled(kGap, dpi);
     drawRow(dc, memory, board.owned.data() + board.dashes + board.axes2d,
-            static_cast<int>(board.owned.size()) - board.dashes - board.axes2d, y, 12);
+            static_cast<int>(board.owned.size()) - board.dashes - board.axes2d, y, kAxesPerRow, dpi);
     DeleteDC(memory);
     EndPaint(window, &ps);
 }
@@ -120,8 +142,10 @@ HWND showPictureBoard(HMODULE library, HBITMAP* symbols, int symbolCount) {
     board->axes2d = 12;
     loadSet(*board, "axes3d", 8);
 
-    const HWND window = CreateWindowExA(0, kClassName, "kvs_dlg.dll pictures", WS_POPUP | WS_CAPTION | WS_VISIBLE,
-                                        40, 40, 680, 270, nullptr, nullptr, GetModuleHandleA(nullptr), board);
+    const int dpi = screenDpi();
+    const HWND window =
+        CreateWindowExA(0, kClassName, "kvs_dlg.dll pictures", WS_POPUP | WS_CAPTION | WS_VISIBLE, 40, 40,
+                        scaled(kWidth, dpi), scaled(kHeight, dpi), nullptr, nullptr, GetModuleHandleA(nullptr), board);
     if (!window) {
         delete board;
         return nullptr;

@@ -1,8 +1,12 @@
 // The file filters on the real common Open dialog: every filter the library
 // prepares offers exactly its descriptions, in order, in the dialog's file
-// type box. A thread timer reads the box and cancels the dialog.
+// type box. The real font dialog: its font-name list shows the longest name
+// whole, and what stood right of the list still does. A thread timer reads
+// each dialog and cancels it.
 #include <windows.h>
 
+#include <algorithm>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -47,7 +51,84 @@ void CALLBACK readAndCancel(HWND, UINT, UINT_PTR timer, DWORD) {
     PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
 }
 
+// What the timer read from the font dialog.
+struct FontNamesSeen {
+    bool dialog = false;
+    int widest = 0;           // the widest name in the list's font
+    int listWidth = 0;        // the list part's client width
+    int fieldRight = 0;       // the names' right edge, in the dialog
+    int leftOfRightColumn = 0;  // the left edge of the first control right of it
+    std::string widestName;
+} fontNames;
+
+RECT inDialog(HWND dialog, HWND control) {
+    RECT r{};
+    GetWindowRect(control, &r);
+    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);
+    return r;
+}
+
+void CALLBACK readFontNamesAndCancel(HWND, UINT, UINT_PTR timer, DWORD) {
+    const HWND dialog = FindWindowA("#32770", "Font");
+    if (!dialog || !IsWindowVisible(dialog)) return;
+    KillTimer(nullptr, timer);
+    fontNames.dialog = true;
+    const HWND names = GetDlgItem(dialog, kFileTypeBox);  // cmb1 here too
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    RECT list{};
+    if (names && GetComboBoxInfo(names, &info) && GetClientRect(info.hwndList, &list)) {
+        fontNames.listWidth = list.right;
+        const HDC dc = GetDC(names);
+        const HGDIOBJ previous = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageA(names, WM_GETFONT, 0, 0)));
+        const auto count = static_cast<int>(SendMessageA(names, CB_GETCOUNT, 0, 0));
+        for (int i = 0; i < count; ++i) {
+            char name[LF_FACESIZE * 2] = {};
+            if (SendMessageA(names, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0) >= static_cast<LRESULT>(sizeof name))
+                continue;
+            SendMessageA(names, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(name));
+            SIZE size{};
+            GetTextExtentPoint32A(dc, name, static_cast<int>(std::strlen(name)), &size);
+            if (size.cx > fontNames.widest) {
+                fontNames.widest = size.cx;
+                fontNames.widestName = name;
+            }
+        }
+        SelectObject(dc, previous);
+        ReleaseDC(names, dc);
+        fontNames.fieldRight = inDialog(dialog, names).right;
+        // The style list (cmb2) heads the column right of the names.
+        if (const HWND styles = GetDlgItem(dialog, kFileTypeBox + 1))
+            fontNames.leftOfRightColumn = inDialog(dialog, styles).left;
+    }
+    PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+}
+
 }  // namespace
+
+kvs::check::Failures checkFontNames() {
+    kvs::check::Failures failures;
+    fontNames = FontNamesSeen{};
+    SetTimer(nullptr, 0, 50, readFontNamesAndCancel);
+    kvs::FontRequest request;
+    constexpr char kFace[] = "Arial";
+    static_assert(sizeof kFace <= sizeof request.initial.faceName);
+    std::memcpy(request.initial.faceName, kFace, sizeof kFace);
+    request.initial.height = -16;
+    const auto chosen = kvs::ui().chooseFont(request);
+    kvs::check::expect(failures, !chosen, "font names: the cancelled dialog returned a font");
+    kvs::check::expect(failures, fontNames.dialog, "font names: no Font dialog appeared");
+    if (!fontNames.dialog) return failures;
+    // Wine draws a name 30 pixels in, after its type picture (at 96 DPI).
+    constexpr int kNameIndent = 30;
+    kvs::check::expect(failures, fontNames.widest + kNameIndent <= fontNames.listWidth,
+                       "font names: \"" + fontNames.widestName + "\" takes " + std::to_string(fontNames.widest) +
+                           " pixels after the picture, the list has " + std::to_string(fontNames.listWidth));
+    kvs::check::expect(failures, fontNames.leftOfRightColumn >= fontNames.fieldRight,
+                       "font names: the style list starts at " + std::to_string(fontNames.leftOfRightColumn) +
+                           ", inside the names ending at " + std::to_string(fontNames.fieldRight));
+    return failures;
+}
 
 kvs::check::Failures checkFileFilters() {
     kvs::check::Failures failures;

@@ -1,5 +1,6 @@
-// Real-window checks of the shared controls and the file filters, run under
-// Wine by tests/win/run_wine_check.sh controls_check. Each returns its failures.
+// Real-window checks of the shared controls, the file filters and the font
+// dialog's name list, run under Wine by tests/win/run_wine_check.sh
+// controls_check. Each returns its failures.
 #pragma once
 
 #include "tests/check/failures.h"
@@ -7,3 +8,4 @@
 kvs::check::Failures checkNumericFields();
 kvs::check::Failures checkProgressWindow();
 kvs::check::Failures checkFileFilters();
+kvs::check::Failures checkFontNames();

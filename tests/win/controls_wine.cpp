@@ -1,4 +1,4 @@
-// Runs the numeric field, progress window and file filter checks on real windows. Prints
+// Runs the numeric field, progress window, file filter and font name checks on real windows. Prints
 // each failure; the exit status is their number.
 #include <windows.h>
 
@@ -18,5 +18,7 @@ int main() {
     failures.insert(failures.end(), progress.begin(), progress.end());
     const kvs::check::Failures filters = checkFileFilters();
     failures.insert(failures.end(), filters.begin(), filters.end());
-    return kvs::check::report(failures, "numeric fields, the up/down control, the progress window and the file filters on real windows");
+    const kvs::check::Failures fonts = checkFontNames();
+    failures.insert(failures.end(), fonts.begin(), fonts.end());
+    return kvs::check::report(failures, "numeric fields, the up/down control, the progress window, the file filters and the font names on real windows");
 }
