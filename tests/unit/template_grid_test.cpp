@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
-#include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -184,28 +184,34 @@ const std::vector<std::vector<std::string>> kSisters = {
     {"REGRESSIONOPTIONS", "GLMOPTIONS", "LOGITOPTS", "DISCRIMOPTIONS"},
     {"COLORCREATE", "COLORANDFILLCREATE"},
     {"LINESTYLE", "SURFACELINESTYLE", "SYMBOLANDLABELCREATE"},
+    {"SMOOTHER", "RESIDUALS"},
+    {"COORDINATES", "COMMONCOORDINATES"},
+    {"PLOTOPTIONS", "SPLOMOPTIONS"},
 };
 
-// The field column of the labels at the left margin, outside any box.
-std::optional<int> marginColumn(const DialogTemplate& d) {
-    for (const auto& [key, xs] : fieldColumns(d))
-        if (key.first < 0 && key.second == kvs::kGridMargin && !xs.empty()) return xs.front();
-    return std::nullopt;
+// Where the fields of a dialog's labels start, in or out of group boxes.
+std::set<int> fieldStarts(const DialogTemplate& d) {
+    std::set<int> xs;
+    for (const auto& [key, columns] : fieldColumns(d)) xs.insert(columns.begin(), columns.end());
+    return xs;
 }
 
-TEST(TemplateGrid, SisterDialogsShareTheirFieldColumn) {
+TEST(TemplateGrid, SisterDialogsShareTheirFieldColumns) {
     std::vector<std::string> faults;
     for (const auto& sisters : kSisters) {
-        std::map<int, std::vector<std::string>> byColumn;
+        std::map<std::set<int>, std::vector<std::string>> byColumns;
         for (const std::string& name : sisters) {
             const DialogTemplate* d = resources().dialog(name);
             ASSERT_NE(d, nullptr) << name;
-            if (const std::optional<int> x = marginColumn(*d)) byColumn[*x].push_back(name);
+            if (const std::set<int> xs = fieldStarts(*d); !xs.empty()) byColumns[xs].push_back(name);
         }
-        if (byColumn.size() < 2) continue;
+        if (byColumns.size() < 2) continue;
         std::string all;
-        for (const auto& [x, names] : byColumn)
-            for (const std::string& n : names) all += " " + n + "@" + std::to_string(x);
+        for (const auto& [xs, names] : byColumns) {
+            std::string columns;
+            for (int x : xs) columns += (columns.empty() ? "" : ",") + std::to_string(x);
+            for (const std::string& n : names) all += " " + n + "@" + columns;
+        }
         faults.push_back(all);
     }
     EXPECT_TRUE(faults.empty()) << listed(faults);
