@@ -11,12 +11,13 @@ export WINEDEBUG="${WINEDEBUG:--all}"
 # No Mono or Gecko installer prompts while the prefix is made.
 export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=}"
 
-# Re-runs the calling script under Xvfb when there is no display.
+# Re-runs the calling script under Xvfb when there is no display, on a
+# screen of KVS_XVFB_SCREEN (1024x768x24 unless set).
 kvs_need_display() {
   if [ -z "${DISPLAY:-}" ]; then
     command -v xvfb-run >/dev/null || { echo "wine: no DISPLAY and no xvfb-run" >&2; exit 2; }
     export KVS_XVFB=1
-    exec xvfb-run -a -s "-screen 0 1024x768x24" "$@"
+    exec xvfb-run -a -s "-screen 0 ${KVS_XVFB_SCREEN:-1024x768x24}" "$@"
   fi
 }
 

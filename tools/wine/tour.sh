@@ -8,6 +8,8 @@
 set -euo pipefail
 if [ -n "${KVS_TOUR_DPI:-}" ]; then
   export WINEPREFIX="${WINEPREFIX:-$(cd "$(dirname "$0")/../.." && pwd)/build/wine-prefix-$KVS_TOUR_DPI}"
+  # A screen as much larger as the dialogs, so a resized one still fits.
+  export KVS_XVFB_SCREEN="${KVS_XVFB_SCREEN:-$((1024 * KVS_TOUR_DPI / 96))x$((768 * KVS_TOUR_DPI / 96))x24}"
 fi
 . "$(dirname "$0")/env.sh"
 out="${1:-$kvs_root/build/tour}"
