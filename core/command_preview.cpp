@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/dialog_grid.h"
 #include "core/mnemonics.h"
 #include "resources/common_ids.h"
 
@@ -9,12 +10,7 @@ namespace kvs {
 
 namespace {
 
-constexpr int kMargin = 7;
-constexpr int kLabelHeight = 8;
 constexpr int kFieldHeight = 30;  // three lines of the dialog font
-constexpr int kButtonWidth = 50;
-constexpr int kButtonHeight = 14;
-constexpr int kGap = 4;
 constexpr std::string_view kLabel = "Command preview:";
 constexpr std::string_view kCopy = "Copy";
 
@@ -40,21 +36,21 @@ bool CommandPreview::install(DialogView& view) {
     // Below the lowest control, whatever the template's bottom margin.
     int top = 0;
     for (const ControlLayout& control : view.layout()) top = std::max(top, control.rect.bottom());
-    top = std::max(top, client.height - kMargin) + kGap;
-    const int fieldTop = top + kLabelHeight + 1;
-    const int needed = fieldTop + kFieldHeight + kMargin - client.height;
+    top = std::max(top, client.height - kGridMargin) + kGridGap;
+    const int fieldTop = top + kGridLabelHeight + 1;
+    const int needed = fieldTop + kFieldHeight + kGridMargin - client.height;
     const std::string copy = withFreeMnemonic(view, kCopy);
     std::string copyLetter;
     collectMnemonic(copy, copyLetter);
     const std::string label = withFreeMnemonic(view, kLabel, copyLetter);
     if (needed > 0) view.growClient(0, needed);
-    const int buttonLeft = client.width - kMargin - kButtonWidth;
-    const int fieldWidth = buttonLeft - kGap - kMargin;
-    installed_ = view.addControl({AddedKind::Label, IDC_COMMAND_PREVIEW_LABEL, label, {kMargin, top, fieldWidth, kLabelHeight}, 0}) &&
+    const int buttonLeft = client.width - kGridMargin - kGridButtonWidth;
+    const int fieldWidth = buttonLeft - kGridGap - kGridMargin;
+    installed_ = view.addControl({AddedKind::Label, IDC_COMMAND_PREVIEW_LABEL, label, {kGridMargin, top, fieldWidth, kGridLabelHeight}, 0}) &&
                  view.addControl({AddedKind::ReadOnlyText, IDC_COMMAND_PREVIEW, "",
-                                  {kMargin, fieldTop, fieldWidth, kFieldHeight}, IDC_COMMAND_PREVIEW_LABEL}) &&
+                                  {kGridMargin, fieldTop, fieldWidth, kFieldHeight}, IDC_COMMAND_PREVIEW_LABEL}) &&
                  view.addControl({AddedKind::PushButton, IDC_COPY_COMMANDS, copy,
-                                  {buttonLeft, fieldTop, kButtonWidth, kButtonHeight}, IDC_COMMAND_PREVIEW});
+                                  {buttonLeft, fieldTop, kGridButtonWidth, kGridButtonHeight}, IDC_COMMAND_PREVIEW});
     return installed_;
 }
 

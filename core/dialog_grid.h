@@ -7,6 +7,11 @@
 namespace kvs {
 
 inline constexpr int kGridMargin = 7;      // from every edge of the client area
+inline constexpr int kGridGap = 4;         // between controls that belong together
+inline constexpr int kGridLabelHeight = 8;
+inline constexpr int kGridFieldHeight = 12;  // a one-line edit
+inline constexpr int kGridButtonWidth = 50;
+inline constexpr int kGridButtonHeight = 14;
 inline constexpr int kGridListRow = 8;     // a list box row: the dialog font's height
 inline constexpr int kGridListBorder = 3;  // a list box's two borders, rounded up
 inline constexpr int kGridLabelDrop = 2;   // a label beside a 12-unit field starts this far below its top

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "core/dialog_grid.h"
 
 namespace kvs {
 
@@ -28,14 +27,19 @@ std::int64_t area(const DialogRect& r) { return static_cast<std::int64_t>(r.widt
 
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
+bool grows(ResizeItem::Kind kind) { return kind == ResizeItem::Kind::Stretch || kind == ResizeItem::Kind::List; }
+
 struct Planner {
     const std::vector<ResizeItem>& items;
     const DialogRect& original;
     int width, height;
     std::vector<std::size_t> box;   // the smallest box holding each item, or kNone
     std::vector<bool> stretches;    // an item, or a box holding one, that grows
-    std::vector<std::size_t> above; // the list an item sits just above, or kNone
-    std::vector<std::size_t> below; // the list an item sits just below, or kNone
+    struct Anchor {
+        std::size_t list = kNone;  // the list an item stays with
+        bool over = false;         // sitting just above it (else just below)
+    };
+    std::vector<Anchor> anchor;
     std::vector<bool> done;
     std::vector<DialogRect> result;
 
@@ -60,12 +64,12 @@ struct Planner {
             const DialogRect& from = items[holder].rect;
             const DialogRect& to = place(holder);
             next = {to.x + r.x - from.x, to.y + r.y - from.y, r.width, r.height};
-        } else if (const std::size_t list = above[i] != kNone ? above[i] : below[i]; list != kNone) {
-            const DialogRect& from = items[list].rect;
-            const DialogRect& to = place(list);
+        } else if (const Anchor& a = anchor[i]; a.list != kNone) {
+            const DialogRect& from = items[a.list].rect;
+            const DialogRect& to = place(a.list);
             const int x = to.x + r.x - from.x;
             const int w = r.right() == from.right() ? to.right() - x : r.width;
-            const int y = above[i] != kNone ? to.y - (from.y - r.y) : to.bottom() + (r.y - from.bottom());
+            const int y = a.over ? to.y - (from.y - r.y) : to.bottom() + (r.y - from.bottom());
             next = {x, y, w, r.height};
         } else {
             const auto [x, w] = axis(r.x, r.width, stretches[i], original.width, width);
@@ -85,8 +89,10 @@ struct Planner {
 // Whether item sits next to list on the side given (above: its bottom over
 // the list's top), near enough and starting within its width.
 bool attached(const DialogRect& item, const DialogRect& list, bool over) {
+    constexpr int kSlack = 2;  // a label may start or end a little outside its list
     const int gap = over ? list.y - item.bottom() : item.y - list.bottom();
-    return gap >= 0 && gap <= kAttachNear && item.x >= list.x - 2 && item.x < list.right() && item.right() <= list.right() + 2;
+    return gap >= 0 && gap <= kAttachNear && item.x >= list.x - kSlack && item.x < list.right() &&
+           item.right() <= list.right() + kSlack;
 }
 
 }  // namespace
@@ -101,8 +107,8 @@ std::vector<DialogRect> resizedLayout(const std::vector<ResizeItem>& items, cons
                                       int height) {
     const std::size_t n = items.size();
     Planner plan{items, original, std::max(width, original.width), std::max(height, original.height),
-                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false), std::vector<std::size_t>(n, kNone),
-                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false), std::vector<DialogRect>(n)};
+                 std::vector<std::size_t>(n, kNone), std::vector<bool>(n, false),
+                 std::vector<Planner::Anchor>(n), std::vector<bool>(n, false), std::vector<DialogRect>(n)};
     for (std::size_t i = 0; i < n; ++i) {
         for (std::size_t b = 0; b < n; ++b) {
             if (items[b].kind != ResizeItem::Kind::Box || !holds(items[b].rect, items[i].rect)) continue;
@@ -113,16 +119,17 @@ std::vector<DialogRect> resizedLayout(const std::vector<ResizeItem>& items, cons
     for (std::size_t i = 0; i < n; ++i)
         if (plan.box[i] != kNone) holdsOthers[plan.box[i]] = true;
     for (std::size_t i = 0; i < n; ++i) {
-        const bool grows = items[i].kind == ResizeItem::Kind::Stretch || items[i].kind == ResizeItem::Kind::List;
-        if (grows || holdsOthers[i] || plan.box[i] != kNone) continue;
-        for (std::size_t l = 0; l < n; ++l) {
-            if (items[l].kind != ResizeItem::Kind::List || plan.box[l] != kNone) continue;
-            if (plan.above[i] == kNone && attached(items[i].rect, items[l].rect, true)) plan.above[i] = l;
-            if (plan.below[i] == kNone && attached(items[i].rect, items[l].rect, false)) plan.below[i] = l;
+        if (grows(items[i].kind) || holdsOthers[i] || plan.box[i] != kNone) continue;
+        // Above a list first: a label over a list stays with the list it names.
+        for (const bool over : {true, false}) {
+            for (std::size_t l = 0; l < n && plan.anchor[i].list == kNone; ++l) {
+                const bool list = items[l].kind == ResizeItem::Kind::List && plan.box[l] == kNone;
+                if (list && attached(items[i].rect, items[l].rect, over)) plan.anchor[i] = {l, over};
+            }
         }
     }
     for (std::size_t i = 0; i < n; ++i) {
-        if (items[i].kind != ResizeItem::Kind::Stretch && items[i].kind != ResizeItem::Kind::List) continue;
+        if (!grows(items[i].kind)) continue;
         plan.stretches[i] = true;
         // Every box around a growing control grows too.
         for (std::size_t b = plan.box[i]; b != kNone; b = plan.box[b]) plan.stretches[b] = true;

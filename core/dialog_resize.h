@@ -17,6 +17,7 @@
 
 #include <vector>
 
+#include "core/dialog_grid.h"
 #include "core/seam.h"
 
 namespace kvs {
@@ -35,8 +36,9 @@ struct ResizeItem {
 // How close (dialog units) to the right or bottom edge a control keeps its
 // distance from that edge.
 inline constexpr int kEdgeNear = 10;
-// How close above or below a list a control stays with it.
-inline constexpr int kAttachNear = 6;
+// How close above or below a list a control stays with it: as close as the
+// label of a search row under its list.
+inline constexpr int kAttachNear = kGridGap + kGridLabelDrop;
 
 // The rects of items (in their order) at a client area of width x height,
 // the items being laid out for original; a size smaller than original is

@@ -14,9 +14,9 @@ namespace {
 
 constexpr std::string_view kLabel = "Quick find:";
 constexpr int kLabelWidth = 36;
-constexpr int kLabelHeight = 8;
-constexpr int kEditHeight = 12;
-constexpr int kGap = 4;  // with the field, a room of two whole rows: the row ends where the list did
+// With the gap above it, the row takes two whole list rows: it ends where the list did.
+constexpr int kRoom = kGridGap + kGridFieldHeight;
+static_assert(kRoom % kGridListRow == 0);
 constexpr int kShortestList = 36;  // what a list keeps at the least: three or four names
 constexpr int kNarrowestList = 70;  // the label and room for a few letters
 constexpr std::size_t kLongestKey = 64;
@@ -83,16 +83,15 @@ bool SourceFilter::install(DialogView& view, const VariableCatalogue* catalogue)
     catalogue_ = catalogue;
     if (view.controlType(listId_) != ControlType::ListBox) return false;
     const DialogRect list = view.controlRect(listId_);
-    const int room = kGap + kEditHeight;
-    if (list.width < kNarrowestList || list.height < kShortestList + room) return false;
+    if (list.width < kNarrowestList || list.height < kShortestList + kRoom) return false;
     // The list gives up whole rows for the search row, which sits just under
     // it, so the row stays with the list when the dialog is resized.
-    const int listHeight = wholeListRows(list.height - room);
-    const int top = list.y + listHeight + kGap;
+    const int listHeight = wholeListRows(list.height - kRoom);
+    const int top = list.y + listHeight + kGridGap;
     const int boxLeft = list.x + kLabelWidth + 2;
     installed_ = view.addControl({AddedKind::Label, labelId_, withFreeMnemonic(view, kLabel),
-                                  {list.x, top + (kEditHeight - kLabelHeight) / 2, kLabelWidth, kLabelHeight}, listId_}) &&
-                 view.addControl({AddedKind::Edit, boxId_, "", {boxLeft, top, list.right() - boxLeft, kEditHeight}, labelId_});
+                                  {list.x, top + kGridLabelDrop, kLabelWidth, kGridLabelHeight}, listId_}) &&
+                 view.addControl({AddedKind::Edit, boxId_, "", {boxLeft, top, list.right() - boxLeft, kGridFieldHeight}, labelId_});
     if (!installed_) return false;
     view.moveControl(listId_, {list.x, list.y, list.width, listHeight});
     view.limitText(boxId_, kLongestKey);

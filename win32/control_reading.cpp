@@ -24,6 +24,12 @@ std::string itemText(HWND control, UINT lengthMessage, UINT textMessage, int ind
     return buffer;
 }
 
+RECT rectInParent(HWND child) {
+    RECT r{};
+    if (child && GetWindowRect(child, &r)) MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&r), 2);
+    return r;
+}
+
 bool isCheckableButton(HWND button) {
     switch (GetWindowLongPtrA(button, GWL_STYLE) & BS_TYPEMASK) {
     case BS_CHECKBOX:

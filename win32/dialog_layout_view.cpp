@@ -48,9 +48,8 @@ AddedClass classOf(AddedKind kind) {
 }  // namespace
 
 DialogRect Win32DialogView::rectOf(HWND control) const {
-    RECT frame{};
-    if (!control || !GetWindowRect(control, &frame)) return {};
-    MapWindowPoints(nullptr, dialog_, reinterpret_cast<POINT*>(&frame), 2);
+    if (!control) return {};
+    const RECT frame = rectInParent(control);
     return {toUnitsX(dialog_, frame.left), toUnitsY(dialog_, frame.top), toUnitsX(dialog_, frame.right - frame.left),
             toUnitsY(dialog_, frame.bottom - frame.top)};
 }

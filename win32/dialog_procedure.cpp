@@ -110,11 +110,11 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         remeasurePictureLists(dialog);
         view.refreshMinimumTrack();
         forwardSize(view, *session->handler, IsIconic(dialog) ? SIZE_MINIMIZED : SIZE_RESTORED);
-        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        repaintWhole(dialog);
         return TRUE;
     case WM_THEMECHANGED:
         // The owner-drawn controls open the theme as they paint.
-        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        repaintWhole(dialog);
         return FALSE;
     case WM_DESTROY:
         activeDialog = session->previousActive;

@@ -20,4 +20,7 @@ int scaledLength(int pixelsAt96, UINT dpi);
 // suggests (lParam) for the new scale.
 void followDpiChange(HWND window, LPARAM suggested);
 
+// Repaints a window and every child, after a change of scale or theme.
+void repaintWhole(HWND window);
+
 }  // namespace kvs::win32

@@ -3,7 +3,9 @@
 #include <dlgs.h>
 
 #include <algorithm>
+#include <string>
 
+#include "win32/control_reading.h"
 #include "win32/dpi_scale.h"
 
 namespace kvs::win32 {
@@ -14,17 +16,8 @@ namespace {
 // and a margin after the name, in pixels at 96 DPI.
 constexpr int kFontNameIndent = 30;
 constexpr int kFontNameMargin = 4;
-// Bounds on the entries measured and on the length of a face name read.
+// A bound on the entries measured.
 constexpr LRESULT kMostFontNames = 10000;
-constexpr int kFaceNameRoom = 64;
-
-// A control's rect in its dialog's client coordinates.
-RECT rectInDialog(HWND dialog, HWND control) {
-    RECT r{};
-    GetWindowRect(control, &r);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);
-    return r;
-}
 
 // The width of the widest entry of the font-name list in the dialog's font.
 int widestFontName(HWND dialog, HWND names) {
@@ -35,12 +28,10 @@ int widestFontName(HWND dialog, HWND names) {
     HGDIOBJ previousFont = font ? SelectObject(dc, font) : nullptr;
     int widest = 0;
     for (LRESULT i = 0; i < count && i < kMostFontNames; ++i) {
-        char name[kFaceNameRoom] = {};
-        const LRESULT length = SendMessageA(names, CB_GETLBTEXTLEN, static_cast<WPARAM>(i), 0);
-        if (length <= 0 || length >= static_cast<LRESULT>(sizeof name)) continue;
-        SendMessageA(names, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(name));
+        const std::string name = itemText(names, CB_GETLBTEXTLEN, CB_GETLBTEXT, static_cast<int>(i));
         SIZE size{};
-        if (GetTextExtentPoint32A(dc, name, static_cast<int>(length), &size)) widest = std::max<int>(widest, size.cx);
+        if (!name.empty() && GetTextExtentPoint32A(dc, name.data(), static_cast<int>(name.size()), &size))
+            widest = std::max<int>(widest, size.cx);
     }
     if (previousFont) SelectObject(dc, previousFont);
     ReleaseDC(names, dc);
@@ -72,10 +63,10 @@ void widenFontNames(HWND dialog) {
     extra = std::min<int>(extra, (work.right - work.left) - (frame.right - frame.left));
     if (extra <= 0) return;
 
-    const RECT field = rectInDialog(dialog, names);
+    const RECT field = rectInParent(names);
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
         if (child == names) continue;
-        const RECT r = rectInDialog(dialog, child);
+        const RECT r = rectInParent(child);
         if (r.left >= field.right)
             SetWindowPos(child, nullptr, r.left + extra, r.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
         else if (r.right > field.right)  // reaching across: a group box keeps what moved inside it

@@ -25,6 +25,11 @@ HMODULE loaded(const wchar_t* name) {
     return module ? module : LoadLibraryW(name);
 }
 
+HMODULE uxtheme() {
+    static const HMODULE module = loaded(L"uxtheme.dll");
+    return module;
+}
+
 }  // namespace
 
 HWND windowFromPoint(POINT screenPoint) {
@@ -63,15 +68,6 @@ UINT dpiForWindow(HWND window) {
     static const auto function = resolve<Function>(user32(), "GetDpiForWindow");
     return function && window ? function(window) : 0;
 }
-
-namespace {
-
-HMODULE uxtheme() {
-    static const HMODULE module = loaded(L"uxtheme.dll");
-    return module;
-}
-
-}  // namespace
 
 bool themesActive() {
     using Function = BOOL(WINAPI*)();

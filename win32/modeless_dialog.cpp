@@ -112,10 +112,10 @@ INT_PTR dispatch(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED:
         // The dialog manager goes on to scale the font and the controls.
         followDpiChange(dialog, lParam);
-        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        repaintWhole(dialog);
         return FALSE;
     case WM_THEMECHANGED:
-        RedrawWindow(dialog, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        repaintWhole(dialog);
         return FALSE;
     case WM_DESTROY:
         if (session.window == dialog) session.window = nullptr;

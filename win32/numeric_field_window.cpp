@@ -345,9 +345,7 @@ HWND createUpDown(HWND dialog, int editId, NumericField& field, std::int32_t not
     field.controlId = static_cast<std::uint16_t>(editId);
     field.notify = notify;
 
-    RECT r{};
-    GetWindowRect(edit, &r);
-    MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&r), 2);
+    const RECT r = rectInParent(edit);
     const std::string text = upDownText(1, upDownPositions(field), upDownPosition(field));
     const int width = scaledLength(kUpDownWidth, windowDpi(dialog));
     const HWND upDown = CreateWindowExA(0, kMicroscrollClass, text.c_str(), kUpDownStyle, r.right, r.top, width,

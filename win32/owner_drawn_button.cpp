@@ -1,7 +1,8 @@
 #include "win32/owner_drawn_button.h"
 
-#include <array>
+#include <string>
 
+#include "win32/control_reading.h"
 #include "win32/dpi_scale.h"
 #include "win32/theme_parts.h"
 
@@ -38,8 +39,8 @@ bool drawOwnerDrawnButton(const DRAWITEMSTRUCT& item) {
     const bool themed = theme && theme.drawBackground(dc, BP_PUSHBUTTON, state, face);
     if (!themed) DrawFrameControl(dc, &face, DFC_BUTTON, DFCS_BUTTONPUSH | (pressed ? DFCS_PUSHED : 0));
 
-    std::array<char, 128> label{};
-    const int length = GetWindowTextA(item.hwndItem, label.data(), static_cast<int>(label.size()));
+    const std::string label = windowText(item.hwndItem);
+    const int length = static_cast<int>(label.size());
     if (length > 0) {
         RECT textArea = face;
         // A classic face sinks when pressed; a themed one shows it itself.

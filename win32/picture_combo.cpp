@@ -6,6 +6,7 @@
 #include <string>
 
 #include "resources/graph_ids.h"
+#include "win32/control_reading.h"
 #include "win32/dpi_scale.h"
 
 namespace kvs::win32 {
@@ -78,10 +79,7 @@ bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item) {
     RECT area = item.rcItem;
     FillRect(item.hDC, &area, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
     if (item.itemID == static_cast<UINT>(-1)) return true;
-    char text[64] = {};
-    const LRESULT length = SendMessageA(item.hwndItem, CB_GETLBTEXTLEN, item.itemID, 0);
-    if (length >= 0 && length < static_cast<LRESULT>(sizeof text))
-        SendMessageA(item.hwndItem, CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text));
+    const std::string text = itemText(item.hwndItem, CB_GETLBTEXTLEN, CB_GETLBTEXT, static_cast<int>(item.itemID));
     int x = area.left + scaledLength(kPictureLeft, dpi);
     if (item.itemID > 0) {
         if (const HBITMAP bitmap = picture(module, list->prefix, item.itemID)) {
@@ -108,7 +106,7 @@ bool drawPictureItem(HMODULE module, const DRAWITEMSTRUCT& item) {
     SetTextColor(item.hDC,
                  GetSysColor(disabled ? COLOR_GRAYTEXT : selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     RECT textArea{x, area.top, area.right, area.bottom};
-    DrawTextA(item.hDC, text, -1, &textArea, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    DrawTextA(item.hDC, text.c_str(), -1, &textArea, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
     if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT)) DrawFocusRect(item.hDC, &area);
     return true;
 }

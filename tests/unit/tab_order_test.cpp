@@ -13,22 +13,19 @@
 
 namespace {
 
+using kvs::testing::listed;
+
 using kvs::headless::ControlKind;
 using kvs::headless::ControlTemplate;
 
 const kvs::headless::ResourceSet& resources() { return kvs::testing::libraryResources(); }
 
-// Where a control shows on the dialog. A drop-down combo box's template
-// height includes its dropped list; closed it is one line high.
+// Where a control shows on the dialog.
 struct Box {
     int left, top, right, bottom;
 };
 
-Box boxOf(const ControlTemplate& c) {
-    constexpr int kClosedComboHeight = 12;
-    const bool dropDown = c.kind == ControlKind::ComboBox && (c.style & 0x3u) >= 2;
-    return {c.x, c.y, c.x + c.w, c.y + (dropDown ? std::min(c.h, kClosedComboHeight) : c.h)};
-}
+Box boxOf(const ControlTemplate& c) { return {c.x, c.y, c.x + c.w, c.y + kvs::testing::shownHeight(c)}; }
 
 Box around(const Box& a, const Box& b) {
     return {std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right), std::max(a.bottom, b.bottom)};
@@ -45,12 +42,6 @@ bool belowOrRightOf(const Box& b, const Box& a) {
 
 std::string describe(const ControlTemplate& c) {
     return std::to_string(c.id) + " \"" + c.text + "\" at (" + std::to_string(c.x) + ", " + std::to_string(c.y) + ")";
-}
-
-std::string listed(const std::vector<std::string>& faults) {
-    std::string all;
-    for (const std::string& fault : faults) all += "\n  " + fault;
-    return all;
 }
 
 // One stop of the Tab key: a visible tab stop, or a radio group, which Tab

@@ -22,6 +22,8 @@
 
 namespace {
 
+using kvs::testing::listed;
+
 using kvs::headless::ControlKind;
 using kvs::headless::ControlTemplate;
 using kvs::headless::DialogTemplate;
@@ -30,12 +32,6 @@ const kvs::headless::ResourceSet& resources() { return kvs::testing::libraryReso
 
 constexpr std::uint32_t kNoIntegralHeight = 0x0100u;
 constexpr int kOneRowList = 19;  // lower than this a list holds one name
-
-std::string listed(const std::vector<std::string>& faults) {
-    std::string all;
-    for (const std::string& fault : faults) all += "\n  " + fault;
-    return all;
-}
 
 std::string where(const DialogTemplate& d, const ControlTemplate& c) {
     return d.name + ": " + std::to_string(c.id) + " \"" + c.text + "\" at (" + std::to_string(c.x) + ", " +
@@ -51,8 +47,6 @@ bool isField(const ControlTemplate& c) {
     return (c.kind == ControlKind::Edit && !c.editMultiline()) || c.kind == ControlKind::ComboBox;
 }
 
-int shownHeight(const ControlTemplate& c) { return c.kind == ControlKind::ComboBox ? 12 : c.h; }
-
 // The field a label names on its row: the nearest one to its right whose
 // shown height the label's text overlaps.
 const ControlTemplate* fieldOf(const DialogTemplate& d, const ControlTemplate& label) {
@@ -60,7 +54,7 @@ const ControlTemplate* fieldOf(const DialogTemplate& d, const ControlTemplate& l
     const ControlTemplate* best = nullptr;
     for (const ControlTemplate& c : d.controls) {
         if (!isField(c) || c.x <= label.x || c.x + 2 < label.x + label.w || c.x - (label.x + label.w) > kFarthest) continue;
-        const bool overlaps = label.y < c.y + shownHeight(c) && c.y < label.y + label.h;
+        const bool overlaps = label.y < c.y + kvs::testing::shownHeight(c) && c.y < label.y + label.h;
         if (overlaps && (!best || c.x < best->x)) best = &c;
     }
     return best;

@@ -10,6 +10,7 @@
 
 #include "core/command_preview.h"
 #include "core/dispatch_table.h"
+#include "core/mnemonics.h"
 #include "core/source_filter.h"
 #include "core/variable_list.h"
 #include "families/library.h"
@@ -43,15 +44,9 @@ TEST(TemplateRows, EveryWrittenDialogHasItsTemplateAndCaption) {
 
 // The letter after the single '&' of a text, lower-cased; 0 for none.
 char mnemonicOf(const std::string& text) {
-    for (std::size_t i = 0; i + 1 < text.size(); ++i) {
-        if (text[i] != '&') continue;
-        if (text[i + 1] == '&') {
-            ++i;
-            continue;
-        }
-        return static_cast<char>(std::tolower(static_cast<unsigned char>(text[i + 1])));
-    }
-    return 0;
+    std::string letter;
+    kvs::collectMnemonic(text, letter);
+    return letter.empty() ? 0 : letter.front();
 }
 
 // Every label and button of a written dialog, with the controls the dialog
@@ -92,9 +87,7 @@ TEST(TemplateRows, LabelsAndButtonsOfWrittenDialogsHaveMnemonicsOfTheirOwn) {
             else taken += letter;
         }
     }
-    std::string all;
-    for (const std::string& fault : faults) all += "\n  " + fault;
-    EXPECT_TRUE(faults.empty()) << all;
+    EXPECT_TRUE(faults.empty()) << kvs::testing::listed(faults);
 }
 
 }  // namespace
